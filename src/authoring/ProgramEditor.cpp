@@ -1,0 +1,59 @@
+#include "authoring/ProgramEditor.h"
+
+#include "authoring/Document.h"
+#include "common/SharedState.h"
+#include "form/frmGlidetrak.h"
+#include "language/CompilePass.h"
+#include "language/Expressions.h"
+#include "language/Keywords.h"
+#include "language/RunControl.h"
+#include "track/OutputImage.h"
+
+namespace glidetrak {
+
+namespace {
+
+void ResetRunState() {
+  bEditorHasFocus = false;
+  bProgramRunning = false;
+  bTraceArmed = false;
+  bInIfBlock = false;
+  bIfCondition = false;
+}
+
+}  // namespace
+
+void ResetProgramState() {
+  txtProgram.SetText("");
+  txtProgram.Select(0, 0);
+  pnlMessage.Visible = false;
+  lblAnalogVal.Caption = "0";
+  lblPowerLevel.Caption = "0";
+  iDirection = 1;
+  lCurrentLine = 0;
+  lSavedSelStart = 0;
+  lSavedSelLength = 0;
+  ResetRunState();
+  sProgramFile.clear();
+  LoadKeywords();
+}
+
+void txtProgram_Change() {
+  if (bProgramRunning || bLoading) return;
+  bNeedCompile = true;
+  if (!bProgramDirty) {
+    MNUSAVEPROG.Enabled = true;
+    MNUSAVEPROGAS.Enabled = true;
+  }
+  bProgramDirty = true;
+}
+
+void txtProgram_GotFocus() {
+  if (bProgramRunning) btnStopProg.SetFocus();
+}
+
+void txtFocusGrab_LostFocus() {
+  txtFocusGrab.SetText("");
+}
+
+}  // namespace glidetrak

@@ -1,0 +1,27 @@
+#pragma once
+
+// The behaviour of the program editor. It is a plain text box: what the user types stays as typed.
+
+#include <QString>
+
+namespace glidetrak {
+
+/// txtProgram holds the focus.
+inline bool bEditorHasFocus = false;
+
+/// The selection kept from the last loss of focus.
+inline qint32 lSavedSelStart = 0;
+inline qint32 lSavedSelLength = 0;
+
+/// Empties the editor and puts the program's state back to its beginning; reads the keywords. The
+/// emptied text fires Change like any other, so that callers clear bProgramDirty after it. Of the
+/// direction only the variable is reset: nothing is sent to the rig.
+void ResetProgramState();
+
+void txtProgram_Change();
+void txtProgram_GotFocus();
+
+/// Throws away the keys that the focus keeper received.
+void txtFocusGrab_LostFocus();
+
+}  // namespace glidetrak

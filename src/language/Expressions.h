@@ -1,0 +1,50 @@
+#pragma once
+
+// The arithmetic of the language: a strict left-to-right scan over the normalised line, with no
+// precedence and no parentheses. Three quirks are part of the language, and programs are written
+// against them: an operator * or / stays in force for the rest of the expression; a + behind an
+// operator never ends; a character literal does not count as an operand.
+
+#include <QString>
+
+#include "platform/RuntimeError.h"
+
+namespace glidetrak {
+
+/// The accumulator. 32 bits, wider than the variables: only the store of a LET narrows it.
+inline qint32 lExprResult = 0;
+
+/// Scans the text; true at its end with the value in lExprResult, false after a message.
+bool EvaluateExpression(const QString& sText);
+
+/// lExprResult times (*), divided by (/, cut towards zero) or plus (any other operator, none
+/// included) the value. On an error a message is shown, the result is false and lExprResult keeps
+/// its value.
+bool ApplyOperand(qint16 iValue, QString sOperator);
+
+/// The message for an error in ApplyOperand: 514 for a division by zero, 515 for an overflow of 32
+/// bits (its wording speaks of 16), 516 for anything else.
+int OperandErrorMessage(const RuntimeError& error);
+
+/// Compares variable iSlot (1 to 30), sign-extended, with lExprResult. An unknown operator leaves
+/// bCondition alone.
+void CompareVariable(const QString& sOperator, int iSlot, bool& bCondition);
+
+/// A LET without its keyword, blanks gone; bHasKeyword tells whether it came from a LET line. False
+/// stops the program, after a message. The expression is evaluated twice, so that each of its
+/// messages is shown twice; deliberate.
+bool ExecuteLet(const QString& sText, bool bHasKeyword);
+
+/// An IF line behind its keyword. False stops the program, after a message.
+bool ExecuteIf(const QString& sText);
+
+/// True inside the body of an IF that held. Reset by Run only: a Trace carries it over.
+inline bool bInIfBlock = false;
+
+/// Result of the last IF test; true otherwise.
+inline bool bIfCondition = true;
+
+/// The IF did not hold: leaves the block and jumps to the ENDIF, which the caller steps over.
+void SkipIfBody();
+
+}  // namespace glidetrak

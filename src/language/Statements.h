@@ -1,0 +1,42 @@
+#pragma once
+
+// Statement execution: one line of LineTable at a time. Each line carries one statement, known by
+// the keyword at its head; the text is normalised, so that arguments are picked apart by position.
+// Sensors read as the last tick left them: no statement reads the rig by itself.
+
+#include <QString>
+
+namespace glidetrak {
+
+/// What came of a line. The numbers are the run loop's and Trace's.
+enum class LineResult {
+  Empty = 0,    ///< nothing was there to do
+  MotorOn = 2,  ///< done, not tracing, and the motor is on
+  Done = 3,     ///< done, in every other case
+  Stopped = 4,  ///< the program has stopped
+};
+
+/// Executes the line at lCurrentLine. Any error of its own stops the program with no message.
+LineResult ExecuteProgramLine(bool bTracing);
+
+/// The line's text, and highlights the line by selecting it in the editor. On the empty extra
+/// record it selects nothing at offset 0; an index beyond the table gives "" and leaves the
+/// selection alone.
+QString SelectProgramLine(qint32 lIndex);
+
+/// The keyword that heads the line. If none does, the line is carried out as an assignment, and the
+/// result is empty whatever came of it: the dispatcher then stops with 511. Deliberate.
+QString FindCommandKeyword(const QString& sText);
+
+/// The message of a PRINT, from the text behind the keyword.
+QString BuildPrintMessage(const QString& sText);
+
+/// The time of a WAIT, 1 to 32000 ms, from the first run of digits. False for anything else, after
+/// message 508 unless the text is empty or beyond 32 bits.
+bool ParseWaitTime(const QString& sText, qint32& lMilliseconds);
+
+/// Last key caught while a program runs, one upper-case character; "" when none since it was
+/// emptied by GET. Written by the key events of run control.
+inline QString sKeyPressed;
+
+}  // namespace glidetrak

@@ -1,0 +1,23 @@
+// Puts the pieces together.
+
+#include <QApplication>
+
+#include "form/ControlTable.h"
+#include "platform/linux/LinuxMachine.h"
+#include "shell/Events.h"
+#include "shell/StartUp.h"
+#include "view/View.h"
+
+int main(int argc, char** argv) {
+  QApplication application(argc, argv);
+  glidetrak::LinuxMachine machine;
+  glidetrak::ViewDesktop desktop;
+  glidetrak::pMachine = &machine;
+  glidetrak::pDesktop = &desktop;
+
+  glidetrak::ResetForms();
+  glidetrak::WireEvents();
+  glidetrak::BuildView();
+  glidetrak::Form_Load(glidetrak::CommandLine(QApplication::arguments()));
+  return QApplication::exec();
+}

@@ -1,0 +1,58 @@
+#include "platform/linux/LinuxPaths.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+namespace glidetrak {
+
+namespace {
+
+/// The entry of that folder which has the name but for its case; "" if there is none.
+QString FindEntry(const QString& sFolder, const QString& sName) {
+  const auto filters = QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot;
+  for (const QString& sEntry : QDir(sFolder).entryList(filters, QDir::Name)) {
+    if (sEntry.compare(sName, Qt::CaseInsensitive) == 0) return sEntry;
+  }
+  return {};
+}
+
+/// Folder by folder; from the first name that is nowhere the rest stays as spelt.
+QString Lookup(const QString& sPath) {
+  QString sFound = sPath.startsWith(u'/') ? "/" : "";
+  for (const QString& sName : sPath.split(u'/', Qt::SkipEmptyParts)) {
+    const QString sExact = sFound + sName;
+    const QString sEntry =
+        QFileInfo::exists(sExact) ? sName : FindEntry(sFound.isEmpty() ? "." : sFound, sName);
+    sFound += (sEntry.isEmpty() ? sName : sEntry) + u'/';
+  }
+  return sFound.size() > 1 ? sFound.chopped(1) : sFound;
+}
+
+QString StationPath(const QString& sArgument) {
+  const QFileInfo file(sArgument);
+  if (!file.exists()) return sArgument;
+  QString sPath = QDir::cleanPath(file.absoluteFilePath());
+  sPath.replace(u'/', u'\\');
+  return sPath.contains(u' ') ? u'"' + sPath + u'"' : sPath;
+}
+
+}  // namespace
+
+QString LinuxPaths::Native(const QString& sStationPath) {
+  const QString sKey = sStationPath.toUpper();
+  const auto known = m_aFound.constFind(sKey);
+  if (known != m_aFound.constEnd()) return *known;
+  QString sNative = sStationPath;
+  sNative.replace(u'\\', u'/');
+  if (!QFileInfo::exists(sNative)) sNative = Lookup(sNative);
+  if (QFileInfo::exists(sNative)) m_aFound.insert(sKey, sNative);
+  return sNative;
+}
+
+QString CommandLine(const QStringList& aArguments) {
+  QStringList aTexts;
+  for (const QString& sArgument : aArguments.mid(1)) aTexts.append(StationPath(sArgument));
+  return aTexts.join(u' ');
+}
+
+}  // namespace glidetrak

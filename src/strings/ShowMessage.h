@@ -1,0 +1,20 @@
+#pragma once
+
+// Modal boxes by string id.
+
+#include <QString>
+
+#include "platform/Platform.h"
+
+namespace glidetrak {
+
+/// A box with OK, text and title by their ids.
+void ShowMessage(int iText, int iTitle, BoxIcon icon);
+
+/// A box with OK and a text put together by the caller.
+void ShowMessage(const QString& sText, const QString& sTitle, BoxIcon icon);
+
+/// A box with Yes and No and the question icon; true for Yes.
+bool AskYesNo(const QString& sText, const QString& sTitle);
+
+}  // namespace glidetrak
