@@ -8,6 +8,7 @@
 #include "common/UnicodeFunctions.h"
 #include "language/CompilePass.h"
 #include "language/ProgramError.h"
+#include "language/RigStatements.h"
 #include "language/RunControl.h"
 #include "language/Variables.h"
 #include "strings/ResourceText.h"
@@ -43,6 +44,7 @@ bool RefuseLet(bool bHasKeyword) {
 bool CarryOutLet(const QString& sText, bool bHasKeyword) {
   if (TrimBlanks(sText).isEmpty()) return FailWith(512);
   if (IsAssignment(sText)) return Assign(sText);
+  if (IsPortBitLet(sText)) return ExecutePortBitLet(sText);
   return RefuseLet(bHasKeyword);
 }
 
@@ -90,7 +92,9 @@ bool ExecuteIf(const QString& sText) {
   bInIfBlock = true;
   bIfCondition = true;
   if (IsComparison(sText)) return ExecuteComparison(sText);
-  return FailWith(503);
+  if (IsPortBitIf(sText)) return ExecutePortBitIf(sText);
+  const QString sSensor = FindSensor(sText);
+  return sSensor.isEmpty() ? FailWith(503) : TestSensorCondition(sText, sSensor);
 }
 
 }  // namespace glidetrak

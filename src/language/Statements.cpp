@@ -11,6 +11,7 @@
 #include "language/CompilePass.h"
 #include "language/Expressions.h"
 #include "language/ProgramError.h"
+#include "language/RigStatements.h"
 #include "language/RunControl.h"
 #include "language/Variables.h"
 #include "platform/Platform.h"
@@ -105,11 +106,21 @@ struct StatementRow {
 };
 
 constexpr std::array StatementRows{
-    StatementRow{Keyword::Print, ExecutePrint}, StatementRow{Keyword::If, ExecuteIfLine},
-    StatementRow{Keyword::Break, ExecuteBreak}, StatementRow{Keyword::Label, ExecuteLabel},
-    StatementRow{Keyword::Goto, ExecuteGoto},   StatementRow{Keyword::Let, ExecuteLetLine},
-    StatementRow{Keyword::Wait, ExecuteWait},   StatementRow{Keyword::Get, ExecuteGet},
-    StatementRow{Keyword::Beep, ExecuteBeep},   StatementRow{Keyword::EndIf, ExecuteEndIf},
+    StatementRow{Keyword::Print, ExecutePrint},
+    StatementRow{Keyword::If, ExecuteIfLine},
+    StatementRow{Keyword::Break, ExecuteBreak},
+    StatementRow{Keyword::Label, ExecuteLabel},
+    StatementRow{Keyword::Goto, ExecuteGoto},
+    StatementRow{Keyword::Let, ExecuteLetLine},
+    StatementRow{Keyword::Wait, ExecuteWait},
+    StatementRow{Keyword::Get, ExecuteGet},
+    StatementRow{Keyword::Beep, ExecuteBeep},
+    StatementRow{Keyword::Forward, ExecuteForward},
+    StatementRow{Keyword::Backward, ExecuteBackward},
+    StatementRow{Keyword::Power, ExecutePower},
+    StatementRow{Keyword::Halt, ExecuteHalt},
+    StatementRow{Keyword::TimeReset, ExecuteTimeReset},
+    StatementRow{Keyword::EndIf, ExecuteEndIf},
 };
 
 bool Dispatch(const QString& sKeyword, const QString& sText) {

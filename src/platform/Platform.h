@@ -12,6 +12,7 @@
 #include <QString>
 #include <initializer_list>
 #include <optional>
+#include <vector>
 
 #include "platform/RuntimeError.h"
 
@@ -19,6 +20,20 @@ namespace glidetrak {
 
 /// The two scopes of the settings store.
 enum class Scope { User, Machine };
+
+struct HidAttributes {
+  qint16 iVendorID = 0;  ///< the 16 bits as they are, so that ids from 0x8000 are negative
+  qint16 iProductID = 0;
+  qint16 iVersionNumber = 0;
+};
+
+/// Both lengths in bytes, counting the report id byte; 0 where the device has no such report.
+struct HidReportLengths {
+  quint16 iInput = 0;
+  quint16 iOutput = 0;
+};
+
+enum class HidReadResult { Success, TimeOut, Failed };
 
 class Machine {
  public:
@@ -52,6 +67,28 @@ class Machine {
 
   /// The present time of day in the locale's long format, without the zone.
   virtual QString LongTime() = 0;
+
+  /// Paths of the HID devices that are present.
+  virtual std::vector<QByteArray> HidPaths() = 0;
+
+  /// Opens a device for reading and writing, shared; a handle, or 0 when it cannot be opened. Each
+  /// handle has an input queue of its own.
+  virtual qint32 HidOpen(const QByteArray& path) = 0;
+  virtual void HidClose(qint32 lHandle) = 0;
+
+  /// False, and nothing written, when the device does not tell.
+  virtual bool GetHidAttributes(qint32 lHandle, HidAttributes& attributes) = 0;
+  virtual bool GetHidReportLengths(qint32 lHandle, HidReportLengths& lengths) = 0;
+
+  /// Writes one whole output report, the report id first; the count of bytes written, 0 on failure.
+  virtual qint32 HidWrite(qint32 lHandle, const QByteArray& report) = 0;
+
+  /// Waits up to lTimeOut ms for one input report. On Success `report`, which comes with the length
+  /// of an input report, holds the report id first; what the device did not send stays as it was.
+  virtual HidReadResult HidRead(qint32 lHandle, qint32 lTimeOut, QByteArray& report) = 0;
+
+  /// The text of the last HID error, for a debugger; "" when there was none.
+  virtual QString HidErrorText() = 0;
 
   /// Calls the operation of that name of the library trackport32; all integers are 32-bit and
   /// passed by value, 0 to 2 of them. Throws PlatformCall when the library or the operation is

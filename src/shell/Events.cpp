@@ -2,9 +2,11 @@
 
 #include "authoring/ProgramEditor.h"
 #include "form/frmGlidetrak.h"
+#include "hardware/AdapterLayer.h"
 #include "language/RunControl.h"
 #include "shell/StartUp.h"
 #include "track/OperatingPanel.h"
+#include "track/SystemTick.h"
 
 namespace glidetrak {
 
@@ -17,11 +19,34 @@ void WireForm() {
   frmGlidetrak.FormUnload = Form_Unload;
 }
 
-void WirePanel() {
+void WireTimers() {
+  tmrSystem.Fired = tmrSystem_Timer;
+  tmrReconnect.Fired = tmrReconnect_Timer;
+  tmrEmergencyFlash.Fired = tmrEmergencyFlash_Timer;
+}
+
+void WireModeAndDirection() {
   cmdManual.Click = cmdManual_Click;
+  cmdManual.MouseMove = cmdManual_MouseMove;
   cmdProgram.Click = cmdProgram_Click;
+  cmdProgram.MouseMove = cmdProgram_MouseMove;
   cmdForward.Click = cmdForward_Click;
+  cmdForward.MouseMove = cmdForward_MouseMove;
   cmdBackward.Click = cmdBackward_Click;
+  cmdBackward.MouseMove = cmdBackward_MouseMove;
+  imgControls.MouseMove = imgControls_MouseMove;
+}
+
+void WirePanel() {
+  imgLever.MouseDown = imgLever_MouseDown;
+  imgLever.MouseMove = imgLever_MouseMove;
+  imgLever.MouseUp = imgLever_MouseUp;
+  btnEmergency.MouseDown = btnEmergency_MouseDown;
+  btnRstStop.Click = btnRstStop_Click;
+  picTogTimer.Click = picTogTimer_Click;
+  btnTmrReset.Click = btnTmrReset_Click;
+  cmdTimerReset.Click = cmdTimerReset_Click;
+  picTogImpact.Click = picTogImpact_Click;
 }
 
 void WireEditor() {
@@ -53,6 +78,8 @@ void WireMenu() {
 
 void WireEvents() {
   WireForm();
+  WireTimers();
+  WireModeAndDirection();
   WirePanel();
   WireEditor();
   WireProgramBox();

@@ -6,6 +6,7 @@
 #include "common/SkipOnError.h"
 #include "common/UnicodeFunctions.h"
 #include "form/frmGlidetrak.h"
+#include "hardware/AdapterLayer.h"
 #include "language/CommandNames.h"
 #include "language/CompilePass.h"
 #include "platform/Platform.h"
@@ -14,6 +15,7 @@
 #include "track/DebugPanel.h"
 #include "track/OperatingPanel.h"
 #include "track/OutputImage.h"
+#include "track/SystemTick.h"
 
 namespace glidetrak {
 
@@ -26,6 +28,17 @@ void PrepareState() {
   iLastPowerRequest = -1;
   FillLampColours();
   ResetProgramState();
+}
+
+/// Shows the link's state whatever it is, and starts or stops the retry.
+void ShowFirstLinkState() {
+  bLinkUpShown = !bLinkUp;
+  ShowLinkState();
+}
+
+void StartTick() {
+  tmrSystem.Interval = iIdleInterval;
+  tmrSystem.Enabled = true;
 }
 
 /// The direction starts at 0 so that setting it to forward really writes bit 4.
@@ -54,12 +67,15 @@ void FinishLoading() {
 void Form_Load(const QString& sCommandLine) {
   bLoading = true;
   SkipOnError([&] { ParseCommandLine(sCommandLine); });
+  SkipOnError([] { CheckHardware(); });
+  SkipOnError(ShowFirstLinkState);
   SkipOnError([] { screen.MousePointer = ptrHourglass; });
   SkipOnError(PrepareState);
   SkipOnError(LoadCaptions);
   SkipOnError(BuildCommandNames);
   SkipOnError(PreparePanel);
   SkipOnError(LoadFirstProgram);
+  SkipOnError(StartTick);
   SkipOnError([] { frmGlidetrak.Show(); });
   FinishLoading();
 }

@@ -13,7 +13,7 @@ inline QString sCommandLineFile;
 /// program's name.
 void Form_Load(const QString& sCommandLine);
 
-/// Ends the process at once.
+/// Hands the rig its zero byte and ends the process at once.
 void Form_Unload();
 
 /// Reads the command line, in upper case: a file path is passed on so.

@@ -46,6 +46,16 @@ void ShowLeverPointer() {
   if (imgLever.MousePointer != iWanted) imgLever.MousePointer = iWanted;
 }
 
+void ShowHover(ImageButton& button, bool bMayHover) {
+  if (bButtonHover || !bMayHover) return;
+  SetPictureIfChanged(button, true, imgDefBtn.Picture, imgDiagBtnWF.Picture);
+  bButtonHover = true;
+}
+
+bool InManualMode() {
+  return iControlMode == modeManual;
+}
+
 }  // namespace
 
 void SetControlStates() {
@@ -77,6 +87,28 @@ void cmdBackward_Click() {
   if (iControlMode != modeManual || iDirection != 1) return;
   SetDirection(0);
   SetControlStates();
+}
+
+void cmdManual_MouseMove(int /*iButton*/, float /*fX*/, float /*fY*/) {
+  ShowHover(cmdManual, !bProgramRunning);
+}
+
+void cmdProgram_MouseMove(int /*iButton*/, float /*fX*/, float /*fY*/) {
+  ShowHover(cmdProgram, !bProgramRunning);
+}
+
+void cmdForward_MouseMove(int /*iButton*/, float /*fX*/, float /*fY*/) {
+  ShowHover(cmdForward, InManualMode());
+}
+
+void cmdBackward_MouseMove(int /*iButton*/, float /*fX*/, float /*fY*/) {
+  ShowHover(cmdBackward, InManualMode());
+}
+
+void imgControls_MouseMove(int /*iButton*/, float /*fX*/, float /*fY*/) {
+  if (!bButtonHover) return;
+  SetControlStates();
+  bButtonHover = false;
 }
 
 }  // namespace glidetrak

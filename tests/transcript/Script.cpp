@@ -4,6 +4,8 @@
 #include <QStringList>
 #include <algorithm>
 
+#include "common/UnicodeFunctions.h"
+
 namespace glidetrak {
 
 namespace {
@@ -28,7 +30,7 @@ bool ReadInstruction(const QString& sLine, Instruction& instruction) {
 void ReadLines(const QByteArray& text, Script& script) {
   for (const QByteArray& line : text.split('\n')) {
     if (!line.startsWith(kMark)) continue;
-    const QString sLine = QString::fromLatin1(line.mid(kMark.size())).trimmed();
+    const QString sLine = FromCodePage(line.mid(kMark.size())).trimmed();
     Instruction instruction;
     if (ReadInstruction(sLine, instruction)) {
       script.aInstructions.push_back(instruction);

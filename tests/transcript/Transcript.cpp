@@ -87,13 +87,15 @@ void Transcript::Run(const QByteArray& program, const Script& script) {
 
 /// What holds from before the station's start.
 void Transcript::Prepare(const Script& script) {
-  bLinkUp = true;
+  QString sLink = "parallel";
   for (const Instruction& instruction : script.aInstructions) {
-    if (instruction.sVerb == "link") bLinkUp = instruction.sOperand == "parallel";
+    if (instruction.sVerb == "link") sLink = instruction.sOperand;
     if (instruction.sVerb == "language") {
       SetUILanguage(static_cast<qint16>(instruction.sOperand.toInt(nullptr, 16)));
     }
   }
+  if (sLink == "parallel") m_platform.rig.AttachParallel();
+  if (sLink == "usb") m_platform.rig.AttachUsb();
 }
 
 void Transcript::LoadProgram(const QByteArray& program) {
@@ -116,7 +118,7 @@ void Transcript::Watch() {
     }
   };
   m_platform.OnBeep = [this] { Write("beep"); };
-  m_platform.OnWrite = [this](qint32 lByte) { Write("out " + QByteArray::number(lByte)); };
+  m_platform.rig.OnWrite = [this](qint32 lByte) { Write("out " + QByteArray::number(lByte)); };
   m_platform.OnPump = [this] {
     if (m_platform.lNow - m_lZero > m_options.lLimit) throw LimitReached();
   };
@@ -185,6 +187,8 @@ void Transcript::CarryOut(const Instruction& instruction) {
   if (sVerb == "answer") {
     m_platform.defaultAnswer = instruction.sOperand == "no" ? BoxAnswer::No : BoxAnswer::Yes;
   }
+  if (sVerb == "input") m_platform.rig.lInput = instruction.sOperand.toInt(nullptr, 0);
+  if (sVerb == "analog") m_platform.rig.lAnalog = instruction.sOperand.toInt(nullptr, 0);
   if (sVerb == "boxes") m_platform.iBoxMilliseconds = instruction.sOperand.toInt();
 }
 

@@ -93,14 +93,7 @@ QString VirtualPlatform::LongTime() {
 
 qint32 VirtualPlatform::CallTrackport(const char* sOperation,
                                       std::initializer_list<qint32> arguments) {
-  if (!bLibraryThere) throw RuntimeError(Fault::PlatformCall);
-  if (QByteArray(sOperation) == "WriteAdapter") {
-    const qint32 lByte = arguments.begin()[1];
-    aWritten.push_back({lByte, lNow});
-    if (OnWrite) OnWrite(lByte);
-    return 0;
-  }
-  throw RuntimeError(Fault::PlatformCall);
+  return rig.Call(sOperation, arguments);
 }
 
 void VirtualPlatform::PumpEvents() {

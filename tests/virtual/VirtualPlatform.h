@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "platform/Platform.h"
+#include "virtual/VirtualRig.h"
 #include "virtual/VirtualTimers.h"
 
 namespace glidetrak {
@@ -26,11 +27,6 @@ struct VirtualBox {
   BoxButtons buttons;
   BoxAnswer answer;
   qint64 lTime;  ///< virtual milliseconds at which it opened
-};
-
-struct WrittenByte {
-  qint32 lByte;
-  qint64 lTime;
 };
 
 class VirtualPlatform : public Machine, public Desktop {
@@ -72,10 +68,8 @@ class VirtualPlatform : public Machine, public Desktop {
   QHash<QString, qint32> aNumbers[2];  ///< by scope: "key\\name"
   int iUserLanguage = 1033;
 
-  // The parallel wire.
-  bool bLibraryThere = true;
-  std::vector<WrittenByte> aWritten;
-  std::function<void(qint32)> OnWrite;
+  // The rig; nothing is attached at first.
+  VirtualRig rig{&lNow};
 
   qint32 GetTickCount() override;
   void SpinOnce() override;
@@ -86,6 +80,22 @@ class VirtualPlatform : public Machine, public Desktop {
                                            const QString& sName) override;
   int UserDefaultLanguage() override;
   QString LongTime() override;
+  std::vector<QByteArray> HidPaths() override { return rig.Paths(); }
+  qint32 HidOpen(const QByteArray& path) override { return rig.Open(path); }
+  void HidClose(qint32 lHandle) override { rig.Close(lHandle); }
+  bool GetHidAttributes(qint32 lHandle, HidAttributes& attributes) override {
+    return rig.Attributes(lHandle, attributes);
+  }
+  bool GetHidReportLengths(qint32 lHandle, HidReportLengths& lengths) override {
+    return rig.ReportLengths(lHandle, lengths);
+  }
+  qint32 HidWrite(qint32 lHandle, const QByteArray& report) override {
+    return rig.Write(lHandle, report);
+  }
+  HidReadResult HidRead(qint32 lHandle, qint32 lTimeOut, QByteArray& report) override {
+    return rig.Read(lHandle, lTimeOut, report);
+  }
+  QString HidErrorText() override { return {}; }
   qint32 CallTrackport(const char* sOperation, std::initializer_list<qint32> arguments) override;
 
   void PumpEvents() override;

@@ -5,6 +5,7 @@
 #include <QLibrary>
 
 #include "platform/Platform.h"
+#include "platform/linux/LinuxHid.h"
 #include "platform/linux/LinuxPaths.h"
 
 namespace glidetrak {
@@ -19,10 +20,27 @@ class LinuxMachine : public Machine {
                                            const QString& sName) override;
   int UserDefaultLanguage() override;
   QString LongTime() override;
+  std::vector<QByteArray> HidPaths() override { return m_hid.Paths(); }
+  qint32 HidOpen(const QByteArray& path) override { return m_hid.Open(path); }
+  void HidClose(qint32 lHandle) override { m_hid.Close(lHandle); }
+  bool GetHidAttributes(qint32 lHandle, HidAttributes& attributes) override {
+    return m_hid.Attributes(lHandle, attributes);
+  }
+  bool GetHidReportLengths(qint32 lHandle, HidReportLengths& lengths) override {
+    return m_hid.ReportLengths(lHandle, lengths);
+  }
+  qint32 HidWrite(qint32 lHandle, const QByteArray& report) override {
+    return m_hid.Write(lHandle, report);
+  }
+  HidReadResult HidRead(qint32 lHandle, qint32 lTimeOut, QByteArray& report) override {
+    return m_hid.Read(lHandle, lTimeOut, report);
+  }
+  QString HidErrorText() override { return m_hid.ErrorText(); }
   qint32 CallTrackport(const char* sOperation, std::initializer_list<qint32> arguments) override;
 
  private:
   LinuxPaths m_paths;
+  LinuxHid m_hid;
   QLibrary m_trackport;  ///< libtrackport32.so beside the executable, loaded at its first call
 };
 

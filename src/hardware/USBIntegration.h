@@ -1,0 +1,31 @@
+#pragma once
+
+// The USB adapter: vendor 0x0CFE, product 0x0046, any version. Every act is one output report
+// followed by one input report; data bytes are counted behind the report id, from 0.
+//
+//   Set output, 19 bytes:  4, 1, 14 zeros, the output byte at 16, 2 zeros. The reply is dropped.
+//   Read state,  3 bytes:  3, 0, 0. In the reply byte 2 is the digital input, byte 3 the analog
+//                          byte with its value, 0 to 15, in the high nibble.
+//
+// An exchange blocks the thread until its reply comes, or 1000 ms.
+
+#include <QtGlobal>
+
+namespace glidetrak {
+
+/// A new device object each time; true when the adapter is there and open.
+bool UsbOpenAdapter();
+
+/// True when the report was written, whatever became of the reply.
+bool UsbWriteOutput(quint8 iByte);
+
+/// The digital input byte; 0 when no reply came.
+quint8 UsbReadInput();
+
+/// The analog byte as it came; 0 when no reply came. An exchange of its own.
+quint8 UsbReadAnalog();
+
+/// Drops the device object, which closes the device.
+void UsbCloseAdapter();
+
+}  // namespace glidetrak

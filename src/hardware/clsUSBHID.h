@@ -1,0 +1,63 @@
+#pragma once
+
+// Finds one USB HID device by vendor id, product id and version, opens it, learns its report
+// lengths and exchanges whole reports with it. It knows nothing of the rig. It reopens a lost
+// device by itself at the next report; while the device is gone each report attempt searches for
+// it once. It raises nothing and shows nothing.
+//
+//   state    connected flag  handles   leaves by
+//   New      false           0         the first bDeviceConnected, WriteReport, ReadReport
+//   Open     true            both set  a read that times out: Closed; one that fails: Stale
+//   Stale    false           both set  the next report: OpenDevice, which closes them first
+//   Closed   false           0         the next report: OpenDevice
+//
+// Example: a device that declares output reports of 64 bytes declares 65 with the report id.
+// WriteReport({3, 0, 0}) puts 00 03 00 00 and 61 zeros on the wire.
+
+#include <QByteArray>
+#include <QString>
+#include <optional>
+
+#include "hardware/modUSBHID.h"
+#include "platform/Platform.h"
+
+namespace glidetrak {
+
+class clsUSBHID {
+ public:
+  clsUSBHID() = default;
+  ~clsUSBHID();
+  clsUSBHID(const clsUSBHID&) = delete;
+  clsUSBHID& operator=(const clsUSBHID&) = delete;
+
+  /// Sends data behind a report id of 0, zero-filled to the length of an output report. False when
+  /// no device is there, when the data is empty or longer than that length less 1, or when nothing
+  /// was written.
+  bool WriteReport(const QByteArray& data);
+
+  /// The next input report without its report id, always one byte less than the declared length;
+  /// nothing when none came. Blocks for up to lReadTimeOut.
+  std::optional<QByteArray> ReadReport();
+
+  /// Opens the device afresh and tells whether it is there.
+  bool bDeviceConnected();
+
+  qint16 iVendorID = iDefaultVendorID;
+  qint16 iProductID = iDefaultProductID;
+  /// iAnyVersion takes any; when a device is accepted this takes its version.
+  qint16 iVersionNumber = iAnyVersion;
+
+ private:
+  void OpenDevice();
+  void CloseDevice();
+  bool AcceptDevice();
+  void RecordLastError();
+
+  qint32 m_lHIDhandle = 0;   ///< writes go here; 0 when closed
+  qint32 m_lReadHandle = 0;  ///< reads go here; 0 when closed
+  HidReportLengths m_capabilities;
+  bool m_bConnected = false;
+  QString m_sLastError;  ///< of the last platform call; read by nobody, a debugging aid
+};
+
+}  // namespace glidetrak

@@ -1,0 +1,149 @@
+#include "virtual/VirtualRig.h"
+
+#include <algorithm>
+
+namespace glidetrak {
+
+namespace {
+
+constexpr qint32 lFirstAddress = 0x378;
+constexpr qint32 lAddressStep = 0x100;
+
+qint32 PortOf(qint32 lAddress) {
+  return (lAddress - lFirstAddress) / lAddressStep + 1;
+}
+
+QByteArray CallText(const QByteArray& operation, std::initializer_list<qint32> arguments) {
+  QByteArray text = operation;
+  for (const qint32 lArgument : arguments) text += ' ' + QByteArray::number(lArgument);
+  return text;
+}
+
+}  // namespace
+
+void VirtualRig::AttachParallel() {
+  lAvailable = 1;
+  aConnected[1] = true;
+  bPresent = true;
+}
+
+void VirtualRig::AttachUsb() {
+  aDevices.push_back({});
+}
+
+void VirtualRig::Detach() {
+  lAvailable = 0;
+  aConnected.clear();
+  bPresent = false;
+  for (VirtualHid& device : aDevices) device.mood = HidMood::Vanished;
+}
+
+void VirtualRig::Record(qint32 lByte) {
+  aWritten.push_back({lByte, *m_pNow});
+  if (OnWrite) OnWrite(lByte);
+}
+
+qint32 VirtualRig::Reading() {
+  if (aReadings.empty()) return lInput | (bPresent ? 0x80 : 0);
+  const qint32 lReading = aReadings.front();
+  aReadings.pop_front();
+  return lReading;
+}
+
+qint32 VirtualRig::Call(const QByteArray& operation, std::initializer_list<qint32> arguments) {
+  if (!bLibraryThere || aMissingOperations.count(operation) > 0) {
+    throw RuntimeError(Fault::PlatformCall);
+  }
+  aCalls.push_back(CallText(operation, arguments));
+  const qint32 lFirst = arguments.size() > 0 ? *arguments.begin() : 0;
+  if (operation == "LPTAvailable") return lAvailable;
+  if (operation == "LPTAddress") return lFirstAddress + (lFirst - 1) * lAddressStep;
+  if (operation == "IsAdapterConnected") return aConnected[PortOf(lFirst)] ? 1 : 0;
+  if (operation == "OpenLPT") return 100 + lFirst;
+  if (operation == "ReadAdapter") return Reading();
+  if (operation == "ReadAtoD") return lAnalog;
+  if (operation == "WriteAdapter") Record(arguments.begin()[1]);
+  return 0;
+}
+
+std::vector<QByteArray> VirtualRig::Paths() {
+  ++iEnumerations;
+  std::vector<QByteArray> aPaths;
+  for (const VirtualHid& device : aDevices) {
+    if (device.mood != HidMood::Vanished) aPaths.push_back(device.path);
+  }
+  return aPaths;
+}
+
+qint32 VirtualRig::Open(const QByteArray& path) {
+  const auto device = std::find_if(aDevices.begin(), aDevices.end(),
+                                   [&](const VirtualHid& d) { return d.path == path; });
+  if (device == aDevices.end()) return 0;
+  if (device->mood == HidMood::Vanished || device->mood == HidMood::Locked) return 0;
+  const qint32 lHandle = m_lNextHandle++;
+  m_aHandlePaths[lHandle] = path;
+  aOpenHandles.insert(lHandle);
+  ++iHandlesOpened;
+  m_aReplies.clear();
+  return lHandle;
+}
+
+void VirtualRig::Close(qint32 lHandle) {
+  aOpenHandles.erase(lHandle);
+}
+
+VirtualHid* VirtualRig::DeviceOf(qint32 lHandle) {
+  if (aOpenHandles.count(lHandle) == 0) return nullptr;
+  for (VirtualHid& device : aDevices) {
+    if (device.path == m_aHandlePaths[lHandle] && device.mood != HidMood::Vanished) return &device;
+  }
+  return nullptr;
+}
+
+bool VirtualRig::Attributes(qint32 lHandle, HidAttributes& attributes) {
+  const VirtualHid* pDevice = DeviceOf(lHandle);
+  if (pDevice == nullptr) return false;
+  attributes = pDevice->attributes;
+  return true;
+}
+
+bool VirtualRig::ReportLengths(qint32 lHandle, HidReportLengths& lengths) {
+  const VirtualHid* pDevice = DeviceOf(lHandle);
+  if (pDevice == nullptr) return false;
+  lengths = pDevice->lengths;
+  return true;
+}
+
+QByteArray VirtualRig::Reply(const QByteArray& report) {
+  QByteArray reply(5, '\0');
+  if (report.at(1) == 4) Record(static_cast<quint8>(report.at(17)));
+  if (report.at(1) == 3) {
+    reply[3] = static_cast<char>(lInput);
+    reply[4] = static_cast<char>(lAnalog << 4);
+  }
+  return reply;
+}
+
+qint32 VirtualRig::Write(qint32 lHandle, const QByteArray& report) {
+  const VirtualHid* pDevice = DeviceOf(lHandle);
+  if (pDevice == nullptr) return 0;
+  aReports.push_back(report);
+  const QByteArray reply = Reply(report);
+  if (pDevice->mood == HidMood::Answers) m_aReplies.push_back(reply);
+  return static_cast<qint32>(report.size());
+}
+
+HidReadResult VirtualRig::Read(qint32 lHandle, qint32 lTimeOut, QByteArray& report) {
+  if (DeviceOf(lHandle) == nullptr) return HidReadResult::Failed;
+  if (m_aReplies.empty()) {
+    *m_pNow += lTimeOut;
+    return HidReadResult::TimeOut;
+  }
+  const QByteArray reply = m_aReplies.front();
+  m_aReplies.pop_front();
+  const qsizetype iCount = std::min(reply.size(), report.size());
+  std::copy_n(reply.begin(), iCount, report.begin());
+  return HidReadResult::Success;
+}
+
+}  // namespace glidetrak

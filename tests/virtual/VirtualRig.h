@@ -1,0 +1,94 @@
+#pragma once
+
+// The rig's two adapters at the wire, in virtual time: what they answer, and a record of what was
+// asked of them.
+
+#include <QByteArray>
+#include <QString>
+#include <deque>
+#include <functional>
+#include <map>
+#include <set>
+#include <vector>
+
+#include "platform/Platform.h"
+
+namespace glidetrak {
+
+struct WrittenByte {
+  qint32 lByte;
+  qint64 lTime;
+};
+
+/// How a HID device behaves from now on.
+enum class HidMood {
+  Answers,
+  Silent,    ///< takes reports and never answers
+  Vanished,  ///< not listed, and open handles fail
+  Locked,    ///< listed, cannot be opened
+};
+
+struct VirtualHid {
+  QByteArray path = "/dev/hidraw0";
+  HidAttributes attributes{3326, 70, 0x0100};
+  HidReportLengths lengths{65, 65};
+  HidMood mood = HidMood::Answers;
+};
+
+class VirtualRig {
+ public:
+  /// The virtual clock, which a read that times out moves on.
+  explicit VirtualRig(qint64* pNow) : m_pNow(pNow) {}
+
+  // What the rig shows.
+  qint32 lInput = 0;   ///< bits 0 to 6; the parallel link adds bit 7
+  qint32 lAnalog = 0;  ///< 0 to 15; on the parallel link handed over as it is
+
+  // The parallel library.
+  bool bLibraryThere = true;
+  std::set<QByteArray> aMissingOperations;
+  qint32 lAvailable = 0;              ///< the mask of LPTAvailable
+  std::map<qint32, bool> aConnected;  ///< by port, 1 to 3
+  std::deque<qint32> aReadings;       ///< of ReadAdapter ahead of everything else
+  bool bPresent = true;               ///< bit 7 of the other readings
+  std::vector<QByteArray> aCalls;     ///< each call: name and arguments, "ReadAtoD 888 50000"
+
+  // The HID devices.
+  std::vector<VirtualHid> aDevices;
+  std::set<qint32> aOpenHandles;
+  int iEnumerations = 0;
+  int iHandlesOpened = 0;
+  std::vector<QByteArray> aReports;  ///< each output report, the report id first
+
+  // What reached the rig.
+  std::vector<WrittenByte> aWritten;
+  std::function<void(qint32)> OnWrite;
+
+  /// One port with an adapter on it, or one USB device, or nothing.
+  void AttachParallel();
+  void AttachUsb();
+  void Detach();
+
+  qint32 Call(const QByteArray& operation, std::initializer_list<qint32> arguments);
+
+  std::vector<QByteArray> Paths();
+  qint32 Open(const QByteArray& path);
+  void Close(qint32 lHandle);
+  bool Attributes(qint32 lHandle, HidAttributes& attributes);
+  bool ReportLengths(qint32 lHandle, HidReportLengths& lengths);
+  qint32 Write(qint32 lHandle, const QByteArray& report);
+  HidReadResult Read(qint32 lHandle, qint32 lTimeOut, QByteArray& report);
+
+ private:
+  void Record(qint32 lByte);
+  qint32 Reading();
+  VirtualHid* DeviceOf(qint32 lHandle);
+  QByteArray Reply(const QByteArray& report);
+
+  qint64* m_pNow;
+  qint32 m_lNextHandle = 1;
+  std::map<qint32, QByteArray> m_aHandlePaths;
+  std::deque<QByteArray> m_aReplies;
+};
+
+}  // namespace glidetrak
