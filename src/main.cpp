@@ -19,5 +19,6 @@ int main(int argc, char** argv) {
   glidetrak::WireEvents();
   glidetrak::BuildView();
   glidetrak::Form_Load(glidetrak::CommandLine(QApplication::arguments()));
-  return QApplication::exec();
+  QApplication::exec();
+  machine.EndProcess();
 }

@@ -15,4 +15,7 @@ inline bool bProgramDirty = false;
 /// Form_Load is under way: a changed text counts as no change.
 inline bool bLoading = false;
 
+/// The close prompt is saving the program; cleared once a write has ended. Read by nobody.
+inline bool bSaveBeforeExit = false;
+
 }  // namespace glidetrak

@@ -33,6 +33,7 @@ void ResetProgramState() {
   lCurrentLine = 0;
   lSavedSelStart = 0;
   lSavedSelLength = 0;
+  sSavedSelText.clear();
   ResetRunState();
   sProgramFile.clear();
   LoadKeywords();
@@ -49,7 +50,26 @@ void txtProgram_Change() {
 }
 
 void txtProgram_GotFocus() {
-  if (bProgramRunning) btnStopProg.SetFocus();
+  if (bProgramRunning) {
+    btnStopProg.SetFocus();
+    return;
+  }
+  bEditorHasFocus = true;
+  if (lSavedSelStart != 0 && lSavedSelLength != 0) {
+    txtProgram.Select(lSavedSelStart, lSavedSelLength);
+  }
+}
+
+void txtProgram_LostFocus() {
+  if (bProgramRunning) return;
+  bEditorHasFocus = false;
+  lSavedSelStart = txtProgram.SelStart();
+  lSavedSelLength = txtProgram.SelLength();
+  sSavedSelText = txtProgram.SelText();
+}
+
+void txtProgram_DblClick() {
+  if (!bProgramRunning) SelectCaretLine();
 }
 
 void txtFocusGrab_LostFocus() {

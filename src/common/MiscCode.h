@@ -14,4 +14,7 @@ void SetPictureIfChanged(Target& target, bool bHot, PictureId rest, PictureId ho
   if (target.Picture.value() != wanted) target.Picture = wanted;
 }
 
+/// Centres the control in the main window's client area, on whole twips.
+void CentreControl(Control& control);
+
 }  // namespace glidetrak

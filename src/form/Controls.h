@@ -94,6 +94,7 @@ struct Form : Control {
   Event<> FormUnload;        ///< the close was not refused
 
   Method<> Show, Unload;
+  Method<> ShowModal;  ///< returns when the form was unloaded
 };
 
 /// A panel that other controls stand in.
@@ -160,7 +161,27 @@ struct Timer : Control {
   Event<> Fired;
 };
 
-struct FileDialog : Control {};
+/// A file dialog of the desktop's own. The fields are set before a showing; FileName, FileTitle and
+/// Flags are read after it.
+struct FileDialog : Control {
+  QString InitDir;      ///< station path
+  QString FileName;     ///< before: the name offered; after: the full path, "" when cancelled
+  QString FileTitle;    ///< after: the name without folders
+  QString Filter;       ///< text and pattern in turn, joined by bars
+  int FilterIndex = 0;  ///< from 1; 0 is not set
+  QString DialogTitle;
+  int Flags = 0;             ///< DialogFlag
+  QString DefaultExt;        ///< given to a name without an extension
+  bool CancelError = false;  ///< a cancel raises RuntimeError(Cancelled)
+
+  Method<> ShowOpen, ShowSave;
+};
+
+enum DialogFlag {
+  dlgHideReadOnly = 4,
+  dlgExtensionDifferent = 0x400,  ///< after the call: the extension is not the default one
+  dlgFileMustExist = 0x1000,
+};
 
 /// Pictures by number, from 1.
 struct ImageList : Control {
@@ -170,6 +191,14 @@ struct ImageList : Control {
 
 struct Screen {
   QProperty<int> MousePointer{ptrDefault};  ///< overrides every control's pointer unless default
+  QProperty<float> Width{0}, Height{0};     ///< of the primary monitor; the view writes them
 };
+
+struct Application {
+  QString Title;
+};
+
+/// On every monitor.
+constexpr int iTwipsPerPixel = 15;
 
 }  // namespace glidetrak

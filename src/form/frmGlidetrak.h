@@ -10,6 +10,7 @@ namespace glidetrak {
 
 inline Form frmGlidetrak;
 inline Screen screen;
+inline Application application;
 
 // In the form.
 inline Timer tmrEmergencyFlash;  ///< 500 ms, off at start; flashes the emergency button

@@ -57,6 +57,40 @@ class Machine {
   /// The bits of FileAttribute. Throws FileNotFound when the path names nothing.
   virtual int FileAttributes(const QString& sPath) = 0;
 
+  /// Creates the file, or replaces it, with these bytes. Throws FileAccess; what was written of it
+  /// by then may stay.
+  virtual void WriteFile(const QString& sPath, const QByteArray& bytes) = 0;
+
+  /// Throws FileNotFound or FileAccess.
+  virtual void DeleteFile(const QString& sPath) = 0;
+
+  /// Folder of the executable, with or without a backslash at its end.
+  virtual QString ExecutableFolder() = 0;
+
+  /// Throws FileAccess.
+  virtual void SetCurrentFolder(const QString& sPath) = 0;
+
+  /// The user's documents folder. Throws PlatformCall when it is not known.
+  virtual QString DocumentsFolder() = 0;
+
+  /// A text from the settings store, "" for a missing one. `sKey` is the path below the scope's
+  /// root; names match without regard to case.
+  virtual QString ReadSetting(Scope scope, const QString& sKey, const QString& sName) = 0;
+
+  /// True only when the value has reached the store.
+  virtual bool WriteSetting(Scope scope, const QString& sKey, const QString& sName,
+                            const QString& sValue) = 0;
+
+  /// The value of a key in a section of an INI file, as bytes; nothing when it is not there.
+  virtual std::optional<QByteArray> ConfigurationValue(const QString& sSection, const QString& sKey,
+                                                       const QString& sPath) = 0;
+
+  /// True when this is the user's only running copy; from then on it answers later copies.
+  virtual bool TakeSingleInstance() = 0;
+
+  /// Asks the earlier copy to come forward; returns within a bounded time.
+  virtual void ActivateOtherCopy() = 0;
+
   /// A number from the settings store, for a value of the 32-bit number type only; nothing for a
   /// text, for a missing value or a missing key. `sKey` is the path below the scope's root.
   virtual std::optional<qint32> ReadRegistryNumber(Scope scope, const QString& sKey,
@@ -103,6 +137,11 @@ enum class BoxIcon { Exclamation, Information, Warning, Question };
 enum class BoxButtons { Ok, YesNo };
 enum class BoxAnswer { Ok, Yes, No };
 
+/// Screen pixels; right and bottom are one behind the last.
+struct PixelRect {
+  qint32 lLeft = 0, lTop = 0, lRight = 0, lBottom = 0;
+};
+
 class Desktop {
  public:
   virtual ~Desktop() = default;
@@ -116,6 +155,22 @@ class Desktop {
 
   /// The system's default beep.
   virtual void Beep() = 0;
+
+  // The main window and the monitors; nothing where the system does not tell.
+
+  /// The whole monitor nearest to the main window.
+  virtual std::optional<PixelRect> NearestMonitor() = 0;
+  /// The primary monitor less the desktop's own bars.
+  virtual std::optional<PixelRect> WorkArea() = 0;
+  /// The place that the window has, or would have when neither minimised nor maximised.
+  virtual std::optional<PixelRect> NormalRect() = 0;
+  /// The place that the window has now.
+  virtual std::optional<PixelRect> WindowRect() = 0;
+  /// Moves the window's top-left corner and repaints it; its size stays.
+  virtual void MoveWindow(qint32 lLeft, qint32 lTop) = 0;
+
+  /// The main window is the active one.
+  virtual bool IsMainWindowActive() = 0;
 };
 
 inline Machine* pMachine = nullptr;

@@ -1,3 +1,5 @@
+// Files by path: loading, writing, names.
+
 #include "programs/ProgramFiles.h"
 
 #include <QRandomGenerator>
@@ -6,9 +8,11 @@
 #include "authoring/ProgramEditor.h"
 #include "common/SkipOnError.h"
 #include "common/UnicodeFunctions.h"
+#include "common/UserPaths.h"
 #include "form/frmGlidetrak.h"
 #include "platform/Platform.h"
 #include "strings/ResourceText.h"
+#include "strings/ShowMessage.h"
 
 namespace glidetrak {
 
@@ -17,13 +21,12 @@ namespace {
 constexpr int iExtensionLength = 4;  ///< with its point
 const char* const sProgramExtension = ".GTP";
 
-QByteArray ReadThroughSlot(const QString& sPath) {
-  if (bFileSlotOpen) throw RuntimeError(Fault::FileSlotInUse);
-  return pMachine->ReadFile(sPath);
-}
-
 bool IsProgramName(const QString& sPath) {
   return UpperCase(sPath.right(3)) == u"GTP";
+}
+
+QString NameOfPath(const QString& sPath) {
+  return sPath.mid(sPath.lastIndexOf(u'\\') + 1);
 }
 
 void TakeProgram(const QString& sPath, const QString& sText) {
@@ -31,7 +34,7 @@ void TakeProgram(const QString& sPath, const QString& sText) {
   txtProgram.SetText(sText);
   txtProgram.Refresh();
   sProgramFile = IsProgramName(sPath) ? sPath : sGetNextFreeRTPFile(sPath);
-  ShowFileInTitle(sProgramFile);
+  ShowFileInTitle(NameOfPath(sProgramFile));
 }
 
 /// A name that nothing was tested for, when the search for a free one failed.
@@ -48,7 +51,20 @@ QString FreeName(const QString& sBase) {
   return sCandidate;
 }
 
+void WriteThroughSlot(const QString& sPath, const QString& sText) {
+  if (FileExists(sPath)) pMachine->DeleteFile(sPath);
+  if (bFileSlotOpen) throw RuntimeError(Fault::FileSlotInUse);
+  bFileSlotOpen = true;
+  pMachine->WriteFile(sPath, ToCodePage(sText));
+  bFileSlotOpen = false;
+}
+
 }  // namespace
+
+QByteArray ReadThroughSlot(const QString& sPath) {
+  if (bFileSlotOpen) throw RuntimeError(Fault::FileSlotInUse);
+  return pMachine->ReadFile(sPath);
+}
 
 void LoadProgramFile(const QString& sPath, bool& bSuccess) {
   bSuccess = false;
@@ -61,11 +77,32 @@ void LoadProgramFile(const QString& sPath, bool& bSuccess) {
   });
 }
 
+void WriteProgramFile(const QString& sPath, const QString& sText, bool& bSuccess) {
+  bSuccess = false;
+  SkipOnError([&] {
+    WriteThroughSlot(sPath, sText);
+    bProgramDirty = false;
+    bSuccess = true;
+  });
+}
+
 QString ResolveFileArgument(const QString& sText) {
-  if (!UpperCase(sText).contains(".GTP")) return {};
+  if (!UpperCase(sText).contains(sProgramExtension)) return {};
   QString sPath = sText;
   sPath.remove(u'"');
   return FileExists(sPath) ? sPath : QString();
+}
+
+QString sGetNextFreeRTPFile(const QString& sPath) {
+  if (sPath.size() < iExtensionLength) return RandomName({});
+  return FreeName(sPath.chopped(iExtensionLength));
+}
+
+QString GetFolderOfPath(const QString& sPath) {
+  const qsizetype iNul = sPath.indexOf(QChar(u'\0'));
+  if (iNul >= 0) return WithBackslash(sPath.left(iNul));
+  const qsizetype iBackslash = sPath.lastIndexOf(u'\\');
+  return WithBackslash(iBackslash >= 0 ? sPath.left(iBackslash + 1) : sPath.left(2));
 }
 
 bool FileExists(const QString& sPath) {
@@ -76,14 +113,22 @@ bool FileExists(const QString& sPath) {
   }
 }
 
-QString sGetNextFreeRTPFile(const QString& sPath) {
-  if (sPath.size() < iExtensionLength) return RandomName({});
-  return FreeName(sPath.chopped(iExtensionLength));
+int IsFileReadOnly(const QString& sPath) {
+  try {
+    if ((pMachine->FileAttributes(sPath) & attrReadOnly) == 0) return 0;
+    ShowMessage(209, 207, BoxIcon::Exclamation);
+    return 1;
+  } catch (const RuntimeError&) {
+    return 2;
+  }
 }
 
-void ShowFileInTitle(const QString& sPath) {
-  const QString sName = sPath.mid(sPath.lastIndexOf(u'\\') + 1);
+void ShowFileInTitle(const QString& sName) {
   frmGlidetrak.Caption = UpperCase(sName) + " : " + LoadText(80);
+}
+
+void ShowPlainTitle() {
+  frmGlidetrak.Caption = LoadText(80);
 }
 
 }  // namespace glidetrak

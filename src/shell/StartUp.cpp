@@ -1,17 +1,26 @@
 #include "shell/StartUp.h"
 
+#include "authoring/CommandPicker.h"
 #include "authoring/Document.h"
 #include "authoring/ProgramEditor.h"
+#include "common/Settings.h"
 #include "common/SharedState.h"
 #include "common/SkipOnError.h"
 #include "common/UnicodeFunctions.h"
+#include "common/UserPaths.h"
 #include "form/frmGlidetrak.h"
 #include "hardware/AdapterLayer.h"
-#include "language/CommandNames.h"
 #include "language/CompilePass.h"
 #include "platform/Platform.h"
+#include "programs/PresetCatalogue.h"
 #include "programs/ProgramFiles.h"
+#include "shell/AboutBox.h"
 #include "shell/Captions.h"
+#include "shell/CommandLine.h"
+#include "shell/Placement.h"
+#include "strings/LanguageFunctions.h"
+#include "strings/ResourceText.h"
+#include "strings/ShowMessage.h"
 #include "track/DebugPanel.h"
 #include "track/OperatingPanel.h"
 #include "track/OutputImage.h"
@@ -20,6 +29,57 @@
 namespace glidetrak {
 
 namespace {
+
+constexpr int iHandCursor = 6;  ///< in imgListSwitches
+
+void BeginLoading() {
+  bLoading = true;
+  sAppPath = WithBackslash(pMachine->ExecutableFolder());
+}
+
+void TakeSystemLanguage() {
+  sLanguageIndex = QString::number(LanguageIndexFromCode(GetSystemLanguage()));
+}
+
+int LanguageIndex() {
+  return static_cast<int>(NumericPrefix(sLanguageIndex));
+}
+
+/// Id 10 tells which texts came out: without a table of its own a language counts as English.
+void DropLanguageWithoutTexts() {
+  if (LoadText(10) == "1" && LanguageIndex() > 2) sLanguageIndex = "0";
+}
+
+void ChooseLanguageFolder() {
+  const int iIndex = LanguageIndex();
+  sLanguageFolder = iIndex > 1 ? "Language\\" + LanguageFolderCode(iIndex) + u'\\' : QString();
+  if (!FileExists(ConfigurationFile())) sLanguageFolder.clear();
+}
+
+void SetHandCursor() {
+  const PictureId hand = imgListSwitches.ListImage(iHandCursor);
+  for (Control* pControl :
+       std::initializer_list<Control*>{&frmGlidetrak, &imgLever, &picTogTimer, &picTogImpact,
+                                       &btnEmergency, &btnRstStop, &btnTmrReset}) {
+    pControl->MouseIcon = hand;
+  }
+}
+
+/// Shows the link's state whatever it is, and starts or stops the retry.
+void ShowFirstLinkState() {
+  bLinkUpShown = !bLinkUp;
+  ShowLinkState();
+}
+
+void ReadFolders() {
+  sSimulationFile = GetIniString("MiscSettings", "SWFILE", "glidetrak.swf", ConfigurationFile());
+  sUserFolder = GetDocumentsFolder();
+}
+
+void HideWhileLoading() {
+  frmGlidetrak.Visible = false;
+  screen.MousePointer = ptrHourglass;
+}
 
 void PrepareState() {
   lInputImage = 0;
@@ -30,30 +90,33 @@ void PrepareState() {
   ResetProgramState();
 }
 
-/// Shows the link's state whatever it is, and starts or stops the retry.
-void ShowFirstLinkState() {
-  bLinkUpShown = !bLinkUp;
-  ShowLinkState();
-}
-
-void StartTick() {
-  tmrSystem.Interval = iIdleInterval;
-  tmrSystem.Enabled = true;
-}
-
 /// The direction starts at 0 so that setting it to forward really writes bit 4.
 void PreparePanel() {
   iDirection = 0;
   SetDirection(1);
   SetPower(0);
   SetControlStates();
+  SetFileMenuStates(true);
 }
 
+/// The program of the command line, else the first pre-set whether it is listed or not.
 void LoadFirstProgram() {
-  bool bSuccess = false;
-  if (!sCommandLineFile.isEmpty()) LoadProgramFile(sCommandLineFile, bSuccess);
+  if (!sCommandLineFile.isEmpty()) {
+    bool bSuccess = false;
+    LoadProgramFile(sCommandLineFile, bSuccess);
+  } else if (Presets.size() > 1) {
+    txtProgram.SetText(Presets[1].sProgramText);
+  }
+}
+
+void ShowManualMode() {
   iControlMode = modeManual;
-  txtProgram.Visible = true;
+  SetProgramBoxVisible(true);
+}
+
+void StartTick() {
+  tmrSystem.Interval = iIdleInterval;
+  tmrSystem.Enabled = true;
 }
 
 void FinishLoading() {
@@ -65,28 +128,40 @@ void FinishLoading() {
 }  // namespace
 
 void Form_Load(const QString& sCommandLine) {
-  bLoading = true;
+  SkipOnError(BeginLoading);
+  SkipOnError([] { pMachine->SetCurrentFolder(sAppPath); });
+  SkipOnError(TakeSystemLanguage);
   SkipOnError([&] { ParseCommandLine(sCommandLine); });
+  SkipOnError(DropLanguageWithoutTexts);
+  SkipOnError(ChooseLanguageFolder);
+  SkipOnError(SetHandCursor);
+  SkipOnError(LoadPresetCatalogue);
   SkipOnError([] { CheckHardware(); });
   SkipOnError(ShowFirstLinkState);
-  SkipOnError([] { screen.MousePointer = ptrHourglass; });
+  SkipOnError(ReadFolders);
+  // Behind the search for the adapter: a second copy touches the port before it gives up.
+  SkipOnError(CheckSingleInstance);
+  SkipOnError(HideWhileLoading);
   SkipOnError(PrepareState);
   SkipOnError(LoadCaptions);
-  SkipOnError(BuildCommandNames);
+  SkipOnError(BuildCommandCatalogue);
   SkipOnError(PreparePanel);
+  SkipOnError(RestorePlacement);
   SkipOnError(LoadFirstProgram);
+  SkipOnError(ShowManualMode);
   SkipOnError(StartTick);
   SkipOnError([] { frmGlidetrak.Show(); });
+  SkipOnError(ShowStartupBox);
   FinishLoading();
 }
 
-void Form_Unload() {
+void CheckSingleInstance() {
+  if (pMachine->TakeSingleInstance()) return;
+  ShowMessage(50, 80, BoxIcon::Exclamation);
+  application.Title = "Exists";  // so that the search for the other copy does not find this one
+  pDesktop->PumpEvents();
+  pMachine->ActivateOtherCopy();
   pMachine->EndProcess();
-}
-
-void ParseCommandLine(const QString& sCommandLine) {
-  const QString sText = TrimBlanks(UpperCase(sCommandLine));
-  if (!sText.isEmpty()) sCommandLineFile = ResolveFileArgument(sText);
 }
 
 }  // namespace glidetrak

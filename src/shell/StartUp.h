@@ -1,22 +1,20 @@
 #pragma once
 
-// Start-up is the loading of the main form, shut-down its unloading.
+// Start-up is the loading of the main form.
 
 #include <QString>
 
 namespace glidetrak {
 
-/// The Control Program file named on the command line, or "".
-inline QString sCommandLineFile;
+/// Value of the key SWFILE of the configuration. Read by nobody.
+inline QString sSimulationFile;
 
-/// The ordered start-up; a step that fails is passed over. sCommandLine is the raw text behind the
+/// The ordered start-up. Each step that fails is passed over and the next one runs; nothing is told
+/// to the user but what the steps themselves tell. sCommandLine is the raw text behind the
 /// program's name.
 void Form_Load(const QString& sCommandLine);
 
-/// Hands the rig its zero byte and ends the process at once.
-void Form_Unload();
-
-/// Reads the command line, in upper case: a file path is passed on so.
-void ParseCommandLine(const QString& sCommandLine);
+/// Ends a second copy of the program: tells the user, brings the first one forward, ends.
+void CheckSingleInstance();
 
 }  // namespace glidetrak

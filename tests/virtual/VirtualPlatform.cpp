@@ -5,8 +5,27 @@
 #include "form/ControlTable.h"
 #include "form/frmAbout.h"
 #include "form/frmGlidetrak.h"
+#include "hardware/USBIntegration.h"
+#include "platform/ConfigurationText.h"
 
 namespace glidetrak {
+
+namespace {
+
+constexpr float fMenuHeight = 315;
+
+QString SettingName(const QString& sKey, const QString& sName) {
+  return (sKey + u'\\' + sName).toUpper();
+}
+
+PixelRect FormRect() {
+  const auto pixels = [](float fTwips) { return static_cast<qint32>(fTwips) / iTwipsPerPixel; };
+  const qint32 lLeft = pixels(frmGlidetrak.Left);
+  const qint32 lTop = pixels(frmGlidetrak.Top);
+  return {lLeft, lTop, lLeft + pixels(frmGlidetrak.Width), lTop + pixels(frmGlidetrak.Height)};
+}
+
+}  // namespace
 
 VirtualPlatform::VirtualPlatform() {
   pMachine = this;
@@ -15,10 +34,25 @@ VirtualPlatform::VirtualPlatform() {
   for (Form* pForm : {&frmGlidetrak, &frmAbout}) {
     pForm->Show = [pForm] { pForm->Visible = true; };
   }
+  WatchWindow();
   m_timers = std::make_unique<VirtualTimers>(&lNow);
 }
 
+/// A window without a frame whose menu bar takes a fixed height; every new size is told.
+void VirtualPlatform::WatchWindow() {
+  const auto resized = [] {
+    frmGlidetrak.ScaleWidth = frmGlidetrak.Width.value();
+    frmGlidetrak.ScaleHeight = frmGlidetrak.Height - fMenuHeight;
+    frmGlidetrak.Resize();
+  };
+  m_widthNotifier = frmGlidetrak.Width.addNotifier(resized);
+  m_heightNotifier = frmGlidetrak.Height.addNotifier(resized);
+  screen.Width = 1920.0F * iTwipsPerPixel;
+  screen.Height = 1080.0F * iTwipsPerPixel;
+}
+
 VirtualPlatform::~VirtualPlatform() {
+  UsbCloseAdapter();  // the device object must not outlive the machine that it closes itself on
   pMachine = nullptr;
   pDesktop = nullptr;
 }
@@ -69,6 +103,62 @@ QByteArray VirtualPlatform::ReadFile(const QString& sPath) {
   const File& file = FindFile(sPath);
   if (aUnreadable.contains(sPath.toUpper())) throw RuntimeError(Fault::FileAccess);
   return file.bytes;
+}
+
+void VirtualPlatform::WriteFile(const QString& sPath, const QByteArray& bytes) {
+  if (aUnwritable.contains(sPath.toUpper())) throw RuntimeError(Fault::FileAccess);
+  AddFile(sPath, bytes);
+}
+
+void VirtualPlatform::DeleteFile(const QString& sPath) {
+  FindFile(sPath);
+  if (aUndeletable.contains(sPath.toUpper())) throw RuntimeError(Fault::FileAccess);
+  m_aFiles.remove(sPath.toUpper());
+}
+
+std::optional<QByteArray> VirtualPlatform::FileBytes(const QString& sPath) const {
+  const auto found = m_aFiles.constFind(sPath.toUpper());
+  if (found == m_aFiles.constEnd()) return {};
+  return found->bytes;
+}
+
+QString VirtualPlatform::DocumentsFolder() {
+  if (!sDocuments) throw RuntimeError(Fault::PlatformCall);
+  return *sDocuments;
+}
+
+QString VirtualPlatform::ReadSetting(Scope scope, const QString& sKey, const QString& sName) {
+  return aSettings[static_cast<int>(scope)].value(SettingName(sKey, sName));
+}
+
+bool VirtualPlatform::WriteSetting(Scope scope, const QString& sKey, const QString& sName,
+                                   const QString& sValue) {
+  const int iScope = static_cast<int>(scope);
+  if (bScopeWritable[iScope]) aSettings[iScope].insert(SettingName(sKey, sName), sValue);
+  return bScopeWritable[iScope];
+}
+
+std::optional<QByteArray> VirtualPlatform::ConfigurationValue(const QString& sSection,
+                                                              const QString& sKey,
+                                                              const QString& sPath) {
+  const std::optional<QByteArray> bytes = FileBytes(sPath);
+  if (!bytes) return {};
+  return FindConfigurationString(*bytes, sSection, sKey);
+}
+
+std::optional<PixelRect> VirtualPlatform::NormalRect() {
+  if (!bNormalRectKnown) return {};
+  return FormRect();
+}
+
+std::optional<PixelRect> VirtualPlatform::WindowRect() {
+  if (!bWindowRectKnown) return {};
+  return FormRect();
+}
+
+void VirtualPlatform::MoveWindow(qint32 lLeft, qint32 lTop) {
+  frmGlidetrak.Left = static_cast<float>(lLeft * iTwipsPerPixel);
+  frmGlidetrak.Top = static_cast<float>(lTop * iTwipsPerPixel);
 }
 
 int VirtualPlatform::FileAttributes(const QString& sPath) {

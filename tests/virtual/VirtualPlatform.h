@@ -64,9 +64,28 @@ class VirtualPlatform : public Machine, public Desktop {
   void AddFile(const QString& sPath, const QByteArray& bytes, int iAttributes = 0);
   std::set<QString> aUnreadable;
 
+  std::set<QString> aUnwritable;
+  std::set<QString> aUndeletable;
+  /// The bytes of a file; nothing when it is not there.
+  std::optional<QByteArray> FileBytes(const QString& sPath) const;
+  QString sExecutableFolder = "\\STATION";
+  QString sCurrentFolder;
+  std::optional<QString> sDocuments = "\\DOCUMENTS";
+
   // Settings and language.
-  QHash<QString, qint32> aNumbers[2];  ///< by scope: "key\\name"
+  QHash<QString, qint32> aNumbers[2];    ///< by scope: "key\\name"
+  QHash<QString, QString> aSettings[2];  ///< by scope: "KEY\\NAME" in upper case
+  bool bScopeWritable[2] = {true, true};
   int iUserLanguage = 1033;
+
+  // Monitors and the window; each is told or not.
+  std::optional<PixelRect> monitor = PixelRect{0, 0, 1920, 1080};
+  std::optional<PixelRect> workArea = PixelRect{0, 0, 1920, 1040};
+  bool bNormalRectKnown = true;
+  bool bWindowRectKnown = true;
+  bool bMainWindowActive = true;
+  bool bFirstCopy = true;
+  int iOtherCopyActivated = 0;
 
   // The rig; nothing is attached at first.
   VirtualRig rig{&lNow};
@@ -75,6 +94,18 @@ class VirtualPlatform : public Machine, public Desktop {
   void SpinOnce() override;
   [[noreturn]] void EndProcess() override;
   QByteArray ReadFile(const QString& sPath) override;
+  void WriteFile(const QString& sPath, const QByteArray& bytes) override;
+  void DeleteFile(const QString& sPath) override;
+  QString ExecutableFolder() override { return sExecutableFolder; }
+  void SetCurrentFolder(const QString& sPath) override { sCurrentFolder = sPath; }
+  QString DocumentsFolder() override;
+  QString ReadSetting(Scope scope, const QString& sKey, const QString& sName) override;
+  bool WriteSetting(Scope scope, const QString& sKey, const QString& sName,
+                    const QString& sValue) override;
+  std::optional<QByteArray> ConfigurationValue(const QString& sSection, const QString& sKey,
+                                               const QString& sPath) override;
+  bool TakeSingleInstance() override { return bFirstCopy; }
+  void ActivateOtherCopy() override { ++iOtherCopyActivated; }
   int FileAttributes(const QString& sPath) override;
   std::optional<qint32> ReadRegistryNumber(Scope scope, const QString& sKey,
                                            const QString& sName) override;
@@ -102,6 +133,12 @@ class VirtualPlatform : public Machine, public Desktop {
   BoxAnswer ShowBox(const QString& sText, const QString& sTitle, BoxIcon icon,
                     BoxButtons buttons) override;
   void Beep() override;
+  std::optional<PixelRect> NearestMonitor() override { return monitor; }
+  std::optional<PixelRect> WorkArea() override { return workArea; }
+  std::optional<PixelRect> NormalRect() override;
+  std::optional<PixelRect> WindowRect() override;
+  void MoveWindow(qint32 lLeft, qint32 lTop) override;
+  bool IsMainWindowActive() override { return bMainWindowActive; }
 
  private:
   struct File {
@@ -116,10 +153,13 @@ class VirtualPlatform : public Machine, public Desktop {
   const File& FindFile(const QString& sPath) const;
   BoxAnswer NextAnswer(BoxButtons buttons);
   void LetMillisecondGoBy();
+  void WatchWindow();
 
   QHash<QString, File> m_aFiles;
   std::deque<Action> m_aActions;  ///< by time, equal times in the order in which they came
   std::unique_ptr<VirtualTimers> m_timers;
+  QPropertyNotifier m_widthNotifier;
+  QPropertyNotifier m_heightNotifier;
 };
 
 }  // namespace glidetrak

@@ -5,52 +5,17 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QLocale>
-#include <QSettings>
 #include <QStandardPaths>
 #include <QTime>
 #include <ctime>
 
+#include "platform/ConfigurationText.h"
 #include "platform/linux/LinuxLanguage.h"
+#include "platform/linux/LinuxSettings.h"
 
 namespace glidetrak {
 
 namespace {
-
-QString SettingsFile(Scope scope) {
-  const QString sName = "Torvane/Glidetrak.conf";
-  const QStringList aFolders = QStandardPaths::standardLocations(QStandardPaths::ConfigLocation);
-  if (scope == Scope::User) return aFolders.value(0) + u'/' + sName;
-  return aFolders.value(1, "/etc/xdg") + u'/' + sName;
-}
-
-/// The group of a key: the last name of its path.
-QString SettingsGroup(const QString& sKey) {
-  return sKey.mid(sKey.lastIndexOf(u'\\') + 1);
-}
-
-/// A text with commas comes back from the file as a list.
-QString SettingText(const QVariant& value) {
-  return value.typeId() == QMetaType::QStringList ? value.toStringList().join(u',')
-                                                  : value.toString();
-}
-
-/// Names match without regard to case.
-QString FindSetting(QSettings& settings, const QString& sName) {
-  for (const QString& sKey : settings.childKeys()) {
-    if (sKey.compare(sName, Qt::CaseInsensitive) == 0) return SettingText(settings.value(sKey));
-  }
-  return {};
-}
-
-/// A number stands in the file as dword: and eight hexadecimal digits.
-std::optional<qint32> NumberSetting(const QString& sText) {
-  const QString sMark = "dword:";
-  if (!sText.startsWith(sMark, Qt::CaseInsensitive)) return {};
-  bool bOk = false;
-  const quint32 lValue = sText.mid(sMark.size()).toUInt(&bOk, 16);
-  if (!bOk) return {};
-  return static_cast<qint32>(lValue);
-}
 
 using NoArguments = qint32 (*)();
 using OneArgument = qint32 (*)(qint32);
@@ -105,11 +70,54 @@ int LinuxMachine::FileAttributes(const QString& sPath) {
   return (info.isDir() ? attrFolder : 0) | (bWritable ? 0 : attrReadOnly);
 }
 
+void LinuxMachine::WriteFile(const QString& sPath, const QByteArray& bytes) {
+  QFile file(m_paths.Native(sPath));
+  if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Unbuffered) ||
+      file.write(bytes) != bytes.size()) {
+    throw RuntimeError(Fault::FileAccess);
+  }
+  file.close();
+  if (file.error() != QFileDevice::NoError) throw RuntimeError(Fault::FileAccess);
+}
+
+void LinuxMachine::DeleteFile(const QString& sPath) {
+  const QString sNative = m_paths.Native(sPath);
+  if (!QFileInfo::exists(sNative)) throw RuntimeError(Fault::FileNotFound);
+  if (!QFile::remove(sNative)) throw RuntimeError(Fault::FileAccess);
+}
+
+QString LinuxMachine::ExecutableFolder() {
+  return StationPath(QCoreApplication::applicationDirPath());
+}
+
+void LinuxMachine::SetCurrentFolder(const QString& sPath) {
+  if (!QDir::setCurrent(m_paths.Native(sPath))) throw RuntimeError(Fault::FileAccess);
+}
+
+QString LinuxMachine::DocumentsFolder() {
+  const QString sFolder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+  if (sFolder.isEmpty() || !QFileInfo::exists(sFolder)) throw RuntimeError(Fault::PlatformCall);
+  return StationPath(sFolder);
+}
+
+QString LinuxMachine::ReadSetting(Scope scope, const QString& sKey, const QString& sName) {
+  return LinuxSettings(scope).Text(sKey, sName);
+}
+
+bool LinuxMachine::WriteSetting(Scope scope, const QString& sKey, const QString& sName,
+                                const QString& sValue) {
+  return LinuxSettings(scope).Write(sKey, sName, sValue);
+}
+
+std::optional<QByteArray> LinuxMachine::ConfigurationValue(const QString& sSection,
+                                                           const QString& sKey,
+                                                           const QString& sPath) {
+  return FindConfigurationString(ReadFile(sPath), sSection, sKey);
+}
+
 std::optional<qint32> LinuxMachine::ReadRegistryNumber(Scope scope, const QString& sKey,
                                                        const QString& sName) {
-  QSettings settings(SettingsFile(scope), QSettings::IniFormat);
-  settings.beginGroup(SettingsGroup(sKey));
-  return NumberSetting(FindSetting(settings, sName));
+  return LinuxSettings(scope).Number(sKey, sName);
 }
 
 int LinuxMachine::UserDefaultLanguage() {

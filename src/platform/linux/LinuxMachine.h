@@ -6,15 +6,33 @@
 
 #include "platform/Platform.h"
 #include "platform/linux/LinuxHid.h"
+#include "platform/linux/LinuxInstance.h"
 #include "platform/linux/LinuxPaths.h"
 
 namespace glidetrak {
 
 class LinuxMachine : public Machine {
  public:
+  /// Called when a later copy asks this one to come forward.
+  void SetActivation(std::function<void()> activate) {
+    m_instance.SetActivation(std::move(activate));
+  }
+
   qint32 GetTickCount() override;
   [[noreturn]] void EndProcess() override;
   QByteArray ReadFile(const QString& sPath) override;
+  void WriteFile(const QString& sPath, const QByteArray& bytes) override;
+  void DeleteFile(const QString& sPath) override;
+  QString ExecutableFolder() override;
+  void SetCurrentFolder(const QString& sPath) override;
+  QString DocumentsFolder() override;
+  QString ReadSetting(Scope scope, const QString& sKey, const QString& sName) override;
+  bool WriteSetting(Scope scope, const QString& sKey, const QString& sName,
+                    const QString& sValue) override;
+  std::optional<QByteArray> ConfigurationValue(const QString& sSection, const QString& sKey,
+                                               const QString& sPath) override;
+  bool TakeSingleInstance() override { return m_instance.Take(); }
+  void ActivateOtherCopy() override { m_instance.ActivateOther(); }
   int FileAttributes(const QString& sPath) override;
   std::optional<qint32> ReadRegistryNumber(Scope scope, const QString& sKey,
                                            const QString& sName) override;
@@ -41,6 +59,7 @@ class LinuxMachine : public Machine {
  private:
   LinuxPaths m_paths;
   LinuxHid m_hid;
+  LinuxInstance m_instance;
   QLibrary m_trackport;  ///< libtrackport32.so beside the executable, loaded at its first call
 };
 

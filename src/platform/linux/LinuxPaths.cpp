@@ -28,11 +28,10 @@ QString Lookup(const QString& sPath) {
   return sFound.size() > 1 ? sFound.chopped(1) : sFound;
 }
 
-QString StationPath(const QString& sArgument) {
+QString ArgumentText(const QString& sArgument) {
   const QFileInfo file(sArgument);
   if (!file.exists()) return sArgument;
-  QString sPath = QDir::cleanPath(file.absoluteFilePath());
-  sPath.replace(u'/', u'\\');
+  const QString sPath = StationPath(QDir::cleanPath(file.absoluteFilePath()));
   return sPath.contains(u' ') ? u'"' + sPath + u'"' : sPath;
 }
 
@@ -49,9 +48,13 @@ QString LinuxPaths::Native(const QString& sStationPath) {
   return sNative;
 }
 
+QString StationPath(QString sNative) {
+  return sNative.replace(u'/', u'\\');
+}
+
 QString CommandLine(const QStringList& aArguments) {
   QStringList aTexts;
-  for (const QString& sArgument : aArguments.mid(1)) aTexts.append(StationPath(sArgument));
+  for (const QString& sArgument : aArguments.mid(1)) aTexts.append(ArgumentText(sArgument));
   return aTexts.join(u' ');
 }
 

@@ -19,6 +19,9 @@ class LinuxPaths {
   QHash<QString, QString> m_aFound;  ///< upper-case station path to native path
 };
 
+/// A native path written the station's way.
+QString StationPath(QString sNative);
+
 /// The arguments behind the program's name as one raw text. One that names a file becomes a
 /// station path from the root, in double quotes when it holds a blank; a relative one means the
 /// folder in which the command was typed.

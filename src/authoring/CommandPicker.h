@@ -1,0 +1,67 @@
+#pragma once
+
+// The command catalogue and its picker: every command and sensor name with format, description and
+// example, and the way of a name into the program.
+//
+// While the panel is open the program controls and the menu heads are disabled, so that it cannot
+// be opened twice and no program can start.
+
+#include <QString>
+#include <vector>
+
+namespace glidetrak {
+
+struct CommandHelp {
+  QString sDescription;
+  QString sFormat;
+  QString sExample;  ///< lines joined by CR LF; trimmed only when shown
+};
+
+/// The entry of list position i stands at i + 1; index 0 stays empty. Built once, at start-up.
+inline std::vector<CommandHelp> CommandHelpTable;
+
+/// Fills lstProgCommands, CommandNameTable and CommandHelpTable from the keywords and the strings.
+void BuildCommandCatalogue();
+
+void AddCatalogueEntry(const QString& sText, const QString& sDescription, const QString& sFormat,
+                       const QString& sExample, bool bIsSensor);
+
+/// Opens the panel on the first entry. Nothing while a program runs.
+void ShowCommandPicker();
+void CloseCommandPicker();
+
+/// Shows the help of a list position; for a negative one it only empties the description.
+void ShowCommandHelp(qint16 iIndex);
+
+/// Puts the chosen name in the place of the editor's selection and leaves it selected. A name that
+/// goes on with an argument comes with its blank, any other with a line end.
+void InsertChosenCommand();
+
+void cmdProgCommands_Click();
+void MNUCommands_Click();
+void btnSelectComSel_Click();
+void btnCloseComSel_Click();
+void imgAddCmdClose_Click();
+void lstProgCommands_DblClick();
+void lstProgCommands_KeyPress(int& iCharCode);
+void lstProgCommands_KeyUp(int& iKeyCode);
+void lstProgCommands_MouseDown(int iButton, float fX, float fY);
+
+/// Also that of pnlCommandSel.
+void lstProgCommands_MouseMove(int iButton, float fX, float fY);
+void btnSelectComSel_MouseMove(int iButton, float fX, float fY);
+void btnCloseComSel_MouseMove(int iButton, float fX, float fY);
+
+/// Of the panel's other controls: both buttons plain.
+void CommandPane_MouseMove(int iButton, float fX, float fY);
+void CommandSelTitle_Click();
+
+// The example pane can be marked and copied, but swallows every key that would change it; whatever
+// changes it all the same is put back.
+void txtHELPExample_KeyDown(int& iKeyCode);
+void txtHELPExample_KeyPress(int& iCharCode);
+void txtHELPExample_KeyUp(int& iKeyCode);
+void txtHELPExample_MouseUp(int iButton, float fX, float fY);
+void txtHELPExample_Change();
+
+}  // namespace glidetrak

@@ -1,0 +1,105 @@
+#include "shell/AboutBox.h"
+
+#include "common/DelayMilliseconds.h"
+#include "common/SharedState.h"
+#include "common/SkipOnError.h"
+#include "common/Version.h"
+#include "form/frmAbout.h"
+#include "form/frmGlidetrak.h"
+#include "platform/Platform.h"
+#include "strings/ResourceText.h"
+#include "track/DebugPanel.h"
+
+namespace glidetrak {
+
+namespace {
+
+constexpr qint32 lOpeningWait = 250;  ///< milliseconds
+
+void CentreOnMainForm() {
+  frmAbout.Left = (frmGlidetrak.Width - frmAbout.Width) / 2 + frmGlidetrak.Left;
+  frmAbout.Top = (frmGlidetrak.Height - frmAbout.Height) / 2 + frmGlidetrak.Top;
+}
+
+QString VersionText() {
+  return QString("%1%2.%3.%4")
+      .arg(LoadText(324))
+      .arg(iVersionMajor)
+      .arg(iVersionMinor, 2, 10, QChar(u'0'))
+      .arg(iVersionRevision, 4, 10, QChar(u'0'));
+}
+
+}  // namespace
+
+void frmAbout_Load() {
+  frmAbout.Caption = LoadText(80);
+  CentreOnMainForm();
+  lblProgName.Caption = frmAbout.Caption.value();
+  lblProgVer.Caption = VersionText();
+  lblplw8Instruct.Caption = LoadText(84);
+  lblplw8Instruct.Visible = true;
+  lblCopyright.Caption = sLegalNotice;
+  tmrUpdate.Enabled = true;
+}
+
+void frmAbout_Unload() {
+  tmrUpdate.Enabled = false;
+  TmrAbout.Enabled = false;
+}
+
+void ShowStartupBox() {
+  SkipOnError(frmAbout_Load);
+  TmrAbout.Enabled = true;
+  frmAbout.Caption = "";
+  SkipOnError(CentreOnMainForm);
+  DelayMilliseconds(Pump::Yes, lOpeningWait, Tick::Suspended);
+  pDesktop->PumpEvents();
+  frmAbout.Show();
+  frmAbout.SetFocus();
+}
+
+void ShowPlzW8Box(bool bAbout) {
+  SkipOnError(frmAbout_Load);
+  if (bAbout) {
+    lblplw8Instruct.Visible = false;
+    frmAbout.ShowModal();
+    return;
+  }
+  frmAbout.Caption = "";
+  frmAbout.Show();
+  frmAbout.Refresh();
+}
+
+void tmrUpdate_Timer() {
+  tmrUpdate.Enabled = false;
+  lblplw8Instruct.Caption = LoadText(bLinkUp ? 280 : 281);
+}
+
+void TmrAbout_Timer() {
+  frmGlidetrak.SetFocus();
+  frmAbout.Unload();
+}
+
+void picClose_Click() {
+  TmrAbout_Timer();
+}
+
+void MNUAbout_Click() {
+  if (!bProgramRunning) ShowPlzW8Box(true);
+}
+
+void MNUShowDebug_Click() {
+  pnlDebug.Visible = true;
+  RefreshDebugPanel();
+}
+
+void imgCloseDebug_Click() {
+  pnlDebug.Visible = false;
+  frmGlidetrak.Refresh();
+}
+
+void pnlDebug_DblClick() {
+  frmGlidetrak.Refresh();
+}
+
+}  // namespace glidetrak

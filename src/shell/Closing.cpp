@@ -1,0 +1,74 @@
+#include "shell/Closing.h"
+
+#include "authoring/Document.h"
+#include "common/SharedState.h"
+#include "common/SkipOnError.h"
+#include "form/frmGlidetrak.h"
+#include "hardware/AdapterLayer.h"
+#include "language/RunControl.h"
+#include "platform/Platform.h"
+#include "programs/ProgramFiles.h"
+#include "shell/Placement.h"
+#include "strings/ResourceText.h"
+#include "strings/ShowMessage.h"
+
+namespace glidetrak {
+
+namespace {
+
+bool ConfirmClose() {
+  frmGlidetrak.SetFocus();
+  return AskYesNo(LoadText(60) + "\r\n" + LoadText(61), LoadText(62));
+}
+
+/// There is no third way out: No discards the changes and the close goes on.
+void OfferToSave() {
+  const QString sText = LoadText(211) + "\r\n" + LoadText(212) + "\r\n" + LoadText(213);
+  if (!AskYesNo(sText, LoadText(62))) return;
+  bSaveBeforeExit = true;
+  SaveProgram();
+}
+
+}  // namespace
+
+void Form_QueryUnload(bool& bCancel) {
+  if (bShuttingDown) return;
+  bSaveBeforeExit = false;
+  SkipOnError([] { StopProgram(); });
+  const bool bTicking = tmrSystem.Enabled;
+  tmrSystem.Enabled = false;
+  if (!ConfirmClose()) {
+    bCancel = true;
+    tmrSystem.Enabled = bTicking;
+    return;
+  }
+  if (bProgramDirty) SkipOnError(OfferToSave);
+  SkipOnError(SavePlacement);
+}
+
+void Form_Unload() {
+  SkipOnError(ShutDownHardware);
+  pMachine->EndProcess();
+}
+
+void MNUNEWPROG_Click() {
+  NewProgram();
+}
+
+void MNULOADPROG_Click() {
+  OpenProgram();
+}
+
+void MNUSAVEPROG_Click() {
+  SaveProgram();
+}
+
+void MNUSAVEPROGAS_Click() {
+  SaveProgramAs();
+}
+
+void MNUEXIT_Click() {
+  if (!bProgramRunning) frmGlidetrak.Unload();
+}
+
+}  // namespace glidetrak

@@ -1,0 +1,22 @@
+#pragma once
+
+// Shut-down is the unloading of the main form.
+
+namespace glidetrak {
+
+/// The close confirmation, for any kind of close, and the saving of the window's place. A program
+/// is stopped first and stays stopped when the user says No.
+void Form_QueryUnload(bool& bCancel);
+
+/// Lets go of the rig and ends the process at once.
+void Form_Unload();
+
+void MNUNEWPROG_Click();
+void MNULOADPROG_Click();
+void MNUSAVEPROG_Click();
+void MNUSAVEPROGAS_Click();
+
+/// Nothing while a program runs; the window's own close box still works then.
+void MNUEXIT_Click();
+
+}  // namespace glidetrak
