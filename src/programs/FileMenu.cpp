@@ -117,9 +117,12 @@ bool HasWritableFile() {
 
 }  // namespace
 
+bool AskSaveChanges(const QString& sTitle) {
+  return AskYesNo(LoadText(211) + "\r\n" + LoadText(212) + "\r\n" + LoadText(213), sTitle);
+}
+
 void PromptSaveChanges(const QString& sTitle) {
-  const QString sText = LoadText(211) + "\r\n" + LoadText(212) + "\r\n" + LoadText(213);
-  if (AskYesNo(sText, sTitle)) SaveProgram();
+  if (AskSaveChanges(sTitle)) SaveProgram();
 }
 
 void NewProgram() {

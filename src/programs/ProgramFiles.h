@@ -19,7 +19,10 @@ void OpenProgram();
 void SaveProgram();
 void SaveProgramAs();
 
-/// Tells of unsaved changes and asks whether to save them. Yes saves, and whatever comes of that,
+/// Tells of unsaved changes and asks whether to save them; true for Yes.
+bool AskSaveChanges(const QString& sTitle);
+
+/// Asks, and Yes saves; and whatever comes of that,
 /// the caller goes on: there is no way out here.
 void PromptSaveChanges(const QString& sTitle);
 

@@ -23,8 +23,7 @@ bool ConfirmClose() {
 
 /// There is no third way out: No discards the changes and the close goes on.
 void OfferToSave() {
-  const QString sText = LoadText(211) + "\r\n" + LoadText(212) + "\r\n" + LoadText(213);
-  if (!AskYesNo(sText, LoadText(62))) return;
+  if (!AskSaveChanges(LoadText(62))) return;
   bSaveBeforeExit = true;
   SaveProgram();
 }

@@ -1,0 +1,45 @@
+#include "view/Fonts.h"
+
+#include <QStringList>
+
+namespace glidetrak {
+
+namespace {
+
+struct Substitutes {
+  const char* sFamily;
+  const char* aOthers[4];  ///< the nearest in width first; null ends the list
+};
+
+constexpr Substitutes SubstituteTable[] = {
+    {"MS Sans Serif", {"Arial", "Liberation Sans", "Nimbus Sans", nullptr}},
+    {"Verdana", {"DejaVu Sans", nullptr}},
+    {"Malgun Gothic", {"Segoe UI", "Liberation Sans", "Nimbus Sans", nullptr}},
+    {"Arial Narrow",
+     {"Liberation Sans Narrow", "Nimbus Sans Narrow", "DejaVu Sans Condensed", nullptr}},
+    {"Courier", {"Courier New", "Liberation Mono", "DejaVu Sans Mono", nullptr}},
+    {"Courier New", {"Liberation Mono", "DejaVu Sans Mono", nullptr}},
+};
+
+QStringList FamiliesFor(const QString& sFamily) {
+  QStringList aFamilies{sFamily};
+  for (const Substitutes& row : SubstituteTable) {
+    if (sFamily != row.sFamily) continue;
+    for (int i = 0; i < 4 && row.aOthers[i]; ++i) aFamilies.append(row.aOthers[i]);
+  }
+  return aFamilies;
+}
+
+}  // namespace
+
+QFont MakeFont(const Font& font) {
+  const QString sFamily = font.sFamily;
+  QFont made;
+  made.setFamilies(FamiliesFor(sFamily));
+  made.setStyleHint(sFamily.startsWith("Courier") ? QFont::Monospace : QFont::SansSerif);
+  made.setPixelSize(qRound(font.fPoints * 96 / 72));
+  made.setBold(font.bBold);
+  return made;
+}
+
+}  // namespace glidetrak

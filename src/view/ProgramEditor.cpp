@@ -1,0 +1,209 @@
+#include "view/ProgramEditor.h"
+
+#include <QMimeData>
+#include <QScopedValueRollback>
+#include <QScrollBar>
+#include <QTextBlock>
+#include <utility>
+
+#include "common/SkipOnError.h"
+#include "view/EditorText.h"
+#include "view/EventRelay.h"
+
+namespace glidetrak {
+
+namespace {
+
+constexpr qsizetype iLargeText = 1'000'000;  ///< from here on the widget is filled in pieces
+constexpr qsizetype iSlice = 300'000;        ///< a piece that a user does not feel
+
+/// The end of the piece that begins at iStart; never between CR and LF.
+qsizetype SliceEnd(const QString& sText, qsizetype iStart) {
+  const qsizetype iWanted = iStart + iSlice;
+  if (sText.size() <= iLargeText || iWanted >= sText.size()) return sText.size();
+  return sText[iWanted - 1] == u'\r' ? iWanted + 1 : iWanted;
+}
+
+}  // namespace
+
+ProgramEditor::ProgramEditor(TextBox& box, QWidget* pParent) : QPlainTextEdit(pParent), m_box(box) {
+  setTabChangesFocus(true);
+  setLineWrapMode(QPlainTextEdit::WidgetWidth);
+  setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  viewport()->setMouseTracking(true);
+  connect(document(), &QTextDocument::contentsChange, this,
+          [this](int iPosition, int iRemoved, int) { TellEdit(iPosition, iRemoved); });
+  connect(this, &QPlainTextEdit::cursorPositionChanged, this, [this] { TellSelection(); });
+  connect(this, &QPlainTextEdit::selectionChanged, this, [this] { TellSelection(); });
+  box.TextSet = [this] { FollowText(); };
+  box.SelectionSet = [this](int, int) { MarkSelection(); };
+  Fill();
+}
+
+/// The station may set the text while it hears of an edit; the widget is in the midst of that edit
+/// then and cannot be filled.
+void ProgramEditor::FollowText() {
+  if (m_bTelling) {
+    MarkStale();
+  } else {
+    Fill();
+  }
+}
+
+void ProgramEditor::Fill() {
+  const QScopedValueRollback applying(m_bApplying, true);
+  m_bStale = false;
+  m_iFilled = 0;
+  setUndoRedoEnabled(false);
+  document()->clear();
+  FillSlice();
+  MarkSelection();
+}
+
+void ProgramEditor::FillSlice() {
+  const QScopedValueRollback applying(m_bApplying, true);
+  const QString& sText = m_box.Text();
+  const qsizetype iEnd = SliceEnd(sText, m_iFilled);
+  QTextCursor cursor(document());
+  cursor.movePosition(QTextCursor::End);
+  cursor.beginEditBlock();
+  InsertShown(cursor, QStringView(sText).mid(m_iFilled, iEnd - m_iFilled));
+  cursor.endEditBlock();
+  m_iFilled = iEnd;
+  const bool bComplete = m_iFilled == sText.size();
+  setReadOnly(!bComplete);
+  setUndoRedoEnabled(bComplete);
+  if (!bComplete) QueueSlice();
+  if (bComplete && m_bSelectionCut) MarkSelection();
+}
+
+/// A piece that was queued for an earlier text goes on with the present one.
+void ProgramEditor::QueueSlice() {
+  if (std::exchange(m_bSliceQueued, true)) return;
+  const auto slice = [this] {
+    m_bSliceQueued = false;
+    if (m_iFilled < m_box.Text().size()) FillSlice();
+  };
+  QMetaObject::invokeMethod(this, slice, Qt::QueuedConnection);
+}
+
+void ProgramEditor::MarkStale() {
+  m_bStale = true;
+  QMetaObject::invokeMethod(
+      this, [this] { MendStale(); }, Qt::QueuedConnection);
+}
+
+void ProgramEditor::MendStale() {
+  if (!m_bStale) return;
+  const int iScroll = verticalScrollBar()->value();
+  Fill();
+  ApplySelection();
+  verticalScrollBar()->setValue(iScroll);
+}
+
+/// A run selects a line for every statement: the widget follows once per return to the event loop.
+void ProgramEditor::MarkSelection() {
+  if (std::exchange(m_bSelectionMarked, true)) return;
+  QMetaObject::invokeMethod(
+      this, [this] { ApplySelection(); }, Qt::QueuedConnection);
+}
+
+void ProgramEditor::ApplySelection() {
+  if (!std::exchange(m_bSelectionMarked, false) || m_bStale) return;
+  const QScopedValueRollback applying(m_bApplying, true);
+  const int iStart = m_box.SelStart();
+  const int iFrom = DocumentPosition(m_box.LineStarts(), iStart);
+  const int iTo = DocumentPosition(m_box.LineStarts(), iStart + m_box.SelLength());
+  m_bSelectionCut = iTo > DocumentLength();
+  QTextCursor cursor(document());
+  cursor.setPosition(std::min(iFrom, DocumentLength()));
+  cursor.setPosition(std::min(iTo, DocumentLength()), QTextCursor::KeepAnchor);
+  setTextCursor(cursor);
+  ensureCursorVisible();
+}
+
+void ProgramEditor::TellSelection() {
+  if (m_bApplying || m_bStale) return;
+  const QTextCursor cursor = textCursor();
+  const int iStart = StationOffset(m_box.LineStarts(), cursor.selectionStart());
+  const int iEnd = StationOffset(m_box.LineStarts(), cursor.selectionEnd());
+  m_box.UserSelect(iStart, iEnd - iStart);
+}
+
+/// The widget often reports a wider stretch than was changed, and the final paragraph break with
+/// it; what lies behind the stretch tells where it ends now.
+void ProgramEditor::TellEdit(int iPosition, int iRemoved) {
+  if (m_bApplying || m_bStale) return;
+  const int iOldEnd = std::min(iPosition + iRemoved, ShownLength());
+  const int iNewEnd = DocumentLength() - (ShownLength() - iOldEnd);
+  const int iStart = StationOffset(m_box.LineStarts(), iPosition);
+  const int iEnd = StationOffset(m_box.LineStarts(), iOldEnd);
+  const TextEdit edit = Difference(QStringView(m_box.Text()).mid(iStart, iEnd - iStart),
+                                   StationText(*document(), iPosition, iNewEnd));
+  if (edit.iRemoved == 0 && edit.sInserted.isEmpty()) return;
+  const QScopedValueRollback telling(m_bTelling, true);
+  SkipOnError([&] { m_box.UserEdit(iStart + edit.iStart, edit.iRemoved, edit.sInserted); });
+  if (ShownLength() != DocumentLength()) MarkStale();
+}
+
+bool ProgramEditor::event(QEvent* pEvent) {
+  if (pEvent->type() == QEvent::KeyPress || pEvent->type() == QEvent::InputMethod) MendStale();
+  return QPlainTextEdit::event(pEvent);
+}
+
+/// The mouse is told after the widget's own answer: a double click finds its word selected.
+bool ProgramEditor::viewportEvent(QEvent* pEvent) {
+  const bool bMouse = IsMouseEvent(*pEvent);
+  if (bMouse || pEvent->type() == QEvent::Drop) MendStale();
+  const bool bAnswered = QPlainTextEdit::viewportEvent(pEvent);
+  if (bMouse) RelayMouse(m_box, *this, static_cast<QMouseEvent&>(*pEvent));
+  return bAnswered;
+}
+
+/// A line separator is a line end like any other.
+void ProgramEditor::keyPressEvent(QKeyEvent* pEvent) {
+  if (!pEvent->matches(QKeySequence::InsertLineSeparator) || isReadOnly()) {
+    QPlainTextEdit::keyPressEvent(pEvent);
+    return;
+  }
+  textCursor().insertBlock();
+  ensureCursorVisible();
+}
+
+/// A hand that trembles on the second press must not drag the selection off the line that the
+/// double click has chosen.
+void ProgramEditor::mouseMoveEvent(QMouseEvent* pEvent) {
+  if (!m_bWordChosen) QPlainTextEdit::mouseMoveEvent(pEvent);
+}
+
+void ProgramEditor::mouseDoubleClickEvent(QMouseEvent* pEvent) {
+  m_bWordChosen = true;
+  QPlainTextEdit::mouseDoubleClickEvent(pEvent);
+}
+
+void ProgramEditor::mouseReleaseEvent(QMouseEvent* pEvent) {
+  m_bWordChosen = false;
+  QPlainTextEdit::mouseReleaseEvent(pEvent);
+}
+
+/// Other programs, and the toolkit's clipboard, end lines with LF.
+QMimeData* ProgramEditor::createMimeDataFromSelection() const {
+  const QTextCursor cursor = textCursor();
+  QString sText = StationText(*document(), cursor.selectionStart(), cursor.selectionEnd());
+  auto* pData = new QMimeData;
+  pData->setText(sText.replace("\r\n", "\n"));
+  return pData;
+}
+
+void ProgramEditor::insertFromMimeData(const QMimeData* pSource) {
+  if (isReadOnly() || !pSource->hasText()) return;
+  QTextCursor cursor = textCursor();
+  cursor.beginEditBlock();
+  cursor.removeSelectedText();
+  InsertShown(cursor, WithLineEnds(pSource->text()));
+  cursor.endEditBlock();
+  setTextCursor(cursor);
+  ensureCursorVisible();
+}
+
+}  // namespace glidetrak

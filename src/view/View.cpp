@@ -1,0 +1,82 @@
+#include "view/View.h"
+
+#include <QApplication>
+#include <QMenuBar>
+#include <utility>
+
+#include "form/ControlTable.h"
+#include "form/frmAbout.h"
+#include "form/frmGlidetrak.h"
+#include "view/ControlWidgets.h"
+#include "view/FormWindow.h"
+#include "view/MenuBar.h"
+#include "view/MessageBoxes.h"
+#include "view/Pointers.h"
+#include "view/RunKeys.h"
+
+namespace glidetrak {
+
+namespace {
+
+FormWindow* pMainWindow = nullptr;
+
+/// Owns the About window, and everything else of the view.
+void DestroyView() {
+  delete std::exchange(pMainWindow, nullptr);
+}
+
+QWidget* Widget(const char* sName) {
+  return pMainWindow->findChild<QWidget*>(sName);
+}
+
+/// The tables draw a container's controls in their order, which is right but for these: panel
+/// backgrounds lie lowest, the focus keeper behind the editor, and the lamps' frames behind the
+/// lamps.
+void OrderOverlaps() {
+  for (int i = 8; i < 24; ++i) Widget(qPrintable(QString("ledOutput_%1").arg(i)))->lower();
+  for (const char* sName :
+       {"txtFocusGrab", "imgSensors", "imgControls", "imgProgBoxBack", "imgHardware"}) {
+    Widget(sName)->lower();
+  }
+}
+
+void BuildMainForm() {
+  pMainWindow = new FormWindow(frmGlidetrak, "frmGlidetrak", nullptr);
+  qAddPostRoutine(DestroyView);
+  pMainWindow->menuBar()->setNativeMenuBar(false);
+  FillMenuBar(pMainWindow->menuBar());
+  MakeControls(MainFormTable(), pMainWindow->Client(), *new FocusKeeper(pMainWindow));
+  OrderOverlaps();
+  pMainWindow->FitClient();
+  ObserveScreenPointer(pMainWindow);
+  new RunKeys(pMainWindow);
+}
+
+void BuildAboutForm() {
+  auto* pWindow = new FormWindow(frmAbout, "frmAbout", pMainWindow);
+  MakeControls(AboutFormTable(), pWindow->Client(), *new FocusKeeper(pWindow));
+  pWindow->FitClient();
+  pWindow->setFixedSize(pWindow->size());
+}
+
+}  // namespace
+
+void ViewDesktop::PumpEvents() {
+  QCoreApplication::processEvents();
+}
+
+BoxAnswer ViewDesktop::ShowBox(const QString& sText, const QString& sTitle, BoxIcon icon,
+                               BoxButtons buttons) {
+  return ShowMessageBox(sText, sTitle, icon, buttons);
+}
+
+void ViewDesktop::Beep() {
+  QApplication::beep();
+}
+
+void BuildView() {
+  BuildMainForm();
+  BuildAboutForm();
+}
+
+}  // namespace glidetrak

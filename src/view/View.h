@@ -1,0 +1,25 @@
+#pragma once
+
+// The two forms on the screen.
+
+#include "platform/Platform.h"
+
+namespace glidetrak {
+
+/// The desktop of a real session. A question box answers to its buttons alone: it has no escape and
+/// no close button, and Enter takes Yes.
+class ViewDesktop : public Desktop {
+ public:
+  void PumpEvents() override;
+  BoxAnswer ShowBox(const QString& sText, const QString& sTitle, BoxIcon icon,
+                    BoxButtons buttons) override;
+  void Beep() override;
+};
+
+/// Draws both forms from their tables, hidden, and wires them: from now on the widgets follow the
+/// controls' properties, and mouse, keys, focus and timers fire the controls' events. To be called
+/// once, after ResetForms; events may be filled before or after it. The windows live until the
+/// application object goes.
+void BuildView();
+
+}  // namespace glidetrak
