@@ -3,6 +3,7 @@
 #include <QApplication>
 
 #include "form/ControlTable.h"
+#include "form/frmGlidetrak.h"
 #include "platform/linux/LinuxMachine.h"
 #include "shell/Events.h"
 #include "shell/StartUp.h"
@@ -14,6 +15,8 @@ int main(int argc, char** argv) {
   glidetrak::ViewDesktop desktop;
   glidetrak::pMachine = &machine;
   glidetrak::pDesktop = &desktop;
+
+  machine.SetActivation([] { glidetrak::frmGlidetrak.SetFocus(); });
 
   glidetrak::ResetForms();
   glidetrak::WireEvents();

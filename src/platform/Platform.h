@@ -70,6 +70,10 @@ class Machine {
   /// Throws FileAccess.
   virtual void SetCurrentFolder(const QString& sPath) = 0;
 
+  /// Between the station's paths and those that the machine itself and its dialogs use.
+  virtual QString NativePath(const QString& sStationPath) = 0;
+  virtual QString StationPath(const QString& sNativePath) = 0;
+
   /// The user's documents folder. Throws PlatformCall when it is not known.
   virtual QString DocumentsFolder() = 0;
 

@@ -22,8 +22,7 @@ void SaveProgramAs();
 /// Tells of unsaved changes and asks whether to save them; true for Yes.
 bool AskSaveChanges(const QString& sTitle);
 
-/// Asks, and Yes saves; and whatever comes of that,
-/// the caller goes on: there is no way out here.
+/// Asks, and Yes saves. Whatever comes of that, the caller goes on: there is no way out here.
 void PromptSaveChanges(const QString& sTitle);
 
 /// Loads a program; the old text goes only after the new one was read. A file that is not named

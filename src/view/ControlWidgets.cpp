@@ -1,18 +1,17 @@
 #include "view/ControlWidgets.h"
 
 #include <QAbstractScrollArea>
-#include <QCheckBox>
-#include <QRadioButton>
 
-#include "form/frmGlidetrak.h"
 #include "view/ChoiceWidgets.h"
+#include "view/Displays.h"
 #include "view/EventRelay.h"
+#include "view/FileDialogs.h"
 #include "view/Fire.h"
 #include "view/Fonts.h"
 #include "view/ImageButtonWidget.h"
 #include "view/Labels.h"
 #include "view/Observe.h"
-#include "view/PictureWidget.h"
+#include "view/PanelWidgets.h"
 #include "view/Pointers.h"
 #include "view/TextWidgets.h"
 #include "view/Timers.h"
@@ -28,31 +27,12 @@ struct Setting {
   QFont font;
 };
 
-bool IsFloating(const PictureBox& panel) {
-  return &panel == &pnlMessage || &panel == &pnlCommandSel || &panel == &pnlDebug;
-}
-
-/// A panel with a picture of its own shows what lies behind where the picture is transparent.
 QWidget* MakeWidget(PictureBox& box, const Setting& setting) {
-  auto* pWidget = new PictureWidget(setting.pParent);
-  const auto show = [pWidget, &box] {
-    const bool bPlain = box.Picture.value() == PictureId::None;
-    pWidget->ShowBackground(bPlain ? ColourOf(box.BackColor) : QColor());
-    pWidget->ShowPicture(box.Picture, Fit::KeepProportions);
-  };
-  Observe(pWidget, box.Picture, show);
-  ObserveChanges(pWidget, box.BackColor, show);
-  if (IsFloating(box)) pWidget->ShowBorder(ColourOf(lGrey));
-  RelayPassive(pWidget, box);
-  return pWidget;
+  return MakePictureBox(box, setting.pParent);
 }
 
 QWidget* MakeWidget(Image& image, const Setting& setting) {
-  auto* pWidget = new PictureWidget(setting.pParent);
-  Observe(pWidget, image.Picture,
-          [pWidget, &image] { pWidget->ShowPicture(image.Picture, Fit::Stretch); });
-  RelayPassive(pWidget, image);
-  return pWidget;
+  return MakeImage(image, setting.pParent);
 }
 
 QWidget* MakeWidget(Label& label, const Setting& setting) {
@@ -87,46 +67,19 @@ QWidget* MakeWidget(ListBox& box, const Setting& setting) {
 }
 
 QWidget* MakeWidget(Shape& shape, const Setting& setting) {
-  auto* pWidget = new PictureWidget(setting.pParent);
-  pWidget->ShowBorder(Qt::black);
-  Observe(pWidget, shape.FillColor,
-          [pWidget, &shape] { pWidget->ShowBackground(ColourOf(shape.FillColor)); });
-  RelayPassive(pWidget, shape);
-  return pWidget;
+  return MakeShape(shape, setting.pParent);
 }
 
-/// A line of no height is drawn one pixel high.
 QWidget* MakeWidget(Line& line, const Setting& setting) {
-  auto* pWidget = new PictureWidget(setting.pParent);
-  pWidget->ShowBackground(ColourOf(lGrey));
-  pWidget->setMinimumSize(1, 1);
-  RelayPassive(pWidget, line);
-  return pWidget;
+  return MakeLine(line, setting.pParent);
 }
 
-/// A display of the debug panel: it shows its value and takes neither mouse nor keys.
-template <class Button, class Box>
-QWidget* MakeDisplay(Box& box, QWidget* pParent) {
-  auto* pWidget = new Button(pParent);
-  pWidget->setFocusPolicy(Qt::NoFocus);
-  QPalette palette = pWidget->palette();
-  palette.setColor(QPalette::WindowText, Qt::white);
-  pWidget->setPalette(palette);
-  Observe(pWidget, box.Caption, [pWidget, &box] { pWidget->setText(box.Caption); });
-  Observe(pWidget, box.Value, [pWidget, &box] { pWidget->setChecked(box.Value); });
-  RelayPassive(pWidget, box);
-  return pWidget;
-}
-
-/// Not exclusive by itself: the two members of a pair follow their own values.
 QWidget* MakeWidget(OptionButton& button, const Setting& setting) {
-  auto* pWidget = static_cast<QRadioButton*>(MakeDisplay<QRadioButton>(button, setting.pParent));
-  pWidget->setAutoExclusive(false);
-  return pWidget;
+  return MakeOptionButton(button, setting.font, setting.pParent);
 }
 
 QWidget* MakeWidget(CheckBox& box, const Setting& setting) {
-  return MakeDisplay<QCheckBox>(box, setting.pParent);
+  return MakeCheckBox(box, setting.font, setting.pParent);
 }
 
 /// Text that looks like markup is told as it stands.
@@ -167,7 +120,7 @@ class ControlMaker {
   void MakeOne(const QString& sName, Kind& control, const Setting& setting) {
     QWidget* pWidget = MakeWidget(control, setting);
     pWidget->setObjectName(sName);
-    pWidget->setFont(setting.font);
+    if (!pWidget->testAttribute(Qt::WA_SetFont)) pWidget->setFont(setting.font);
     ObservePlace(pWidget, control, [pWidget, &control] { pWidget->setGeometry(PlaceOf(control)); });
     WireControl(pWidget, control, m_focus);
     m_aPanels.insert(&control, pWidget);
@@ -184,8 +137,11 @@ class ControlMaker {
     DriveTimer(m_pClient, sName, timer);
   }
 
+  void MakeOne(const QString&, FileDialog& dialog, const Setting&) {
+    WireFileDialog(dialog, m_pClient->window());
+  }
+
   void MakeOne(const QString&, Form&, const Setting&) {}
-  void MakeOne(const QString&, FileDialog&, const Setting&) {}
   void MakeOne(const QString&, ImageList&, const Setting&) {}
 
   QWidget* m_pClient;

@@ -9,6 +9,7 @@ namespace glidetrak {
 
 namespace {
 
+constexpr QChar LineMark(0xB6);  ///< stands for what would break a line; every font has it
 constexpr QChar Unshowable(0xFFFD);
 
 bool IsLineEnd(QStringView sText, qsizetype i) {
@@ -49,11 +50,10 @@ QString BlockText(const QTextBlock& block, int iFrom, int iTo) {
 
 QChar Shown(QChar character) {
   const char16_t c = character.unicode();
-  if (c < 0x20 && c != u'\t') return QChar(0x2400 + c);
-  if (c == 0x7F) return QChar(0x2421);
-  const bool bSwallowed = (c >= 0x80 && c < 0xA0) || c == 0x2028 || c == 0x2029 ||
-                          (c >= 0xFDD0 && c <= 0xFDEF) || c == 0xFFFC;
-  return bSwallowed ? Unshowable : character;
+  if ((c >= u'\n' && c <= u'\r') || c == 0x85 || c == 0x2028 || c == 0x2029) return LineMark;
+  const bool bControl = (c < 0x20 && c != u'\t') || (c >= 0x7F && c < 0xA0);
+  const bool bReserved = (c >= 0xFDD0 && c <= 0xFDEF) || c == 0xFFFC;
+  return bControl || bReserved ? Unshowable : character;
 }
 
 int DocumentPosition(const std::vector<int>& aStarts, int iOffset) {

@@ -1,5 +1,6 @@
 #include "view/Fonts.h"
 
+#include <QFontMetrics>
 #include <QStringList>
 
 namespace glidetrak {
@@ -21,6 +22,8 @@ constexpr Substitutes SubstituteTable[] = {
     {"Courier New", {"Liberation Mono", "DejaVu Sans Mono", nullptr}},
 };
 
+constexpr qreal fSmallest = 0.72;  ///< of the design size; below that nobody reads it
+
 QStringList FamiliesFor(const QString& sFamily) {
   QStringList aFamilies{sFamily};
   for (const Substitutes& row : SubstituteTable) {
@@ -40,6 +43,14 @@ QFont MakeFont(const Font& font) {
   made.setPixelSize(qRound(font.fPoints * 96 / 72));
   made.setBold(font.bBold);
   return made;
+}
+
+QFont FittingFont(QFont font, const QString& sText, int iWidth) {
+  const int iSmallest = qRound(font.pixelSize() * fSmallest);
+  while (font.pixelSize() > iSmallest && QFontMetrics(font).horizontalAdvance(sText) > iWidth) {
+    font.setPixelSize(font.pixelSize() - 1);
+  }
+  return font;
 }
 
 }  // namespace glidetrak

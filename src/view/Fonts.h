@@ -10,4 +10,8 @@ namespace glidetrak {
 /// takes its place.
 QFont MakeFont(const Font& font);
 
+/// The font, made smaller as far as a text needs it to fit on one line of that width in pixels; but
+/// no smaller than can be read.
+QFont FittingFont(QFont font, const QString& sText, int iWidth);
+
 }  // namespace glidetrak

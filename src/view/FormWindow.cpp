@@ -1,6 +1,7 @@
 #include "view/FormWindow.h"
 
 #include <QCloseEvent>
+#include <QEventLoop>
 #include <QLayout>
 #include <QScopedValueRollback>
 #include <utility>
@@ -58,12 +59,21 @@ void FormWindow::ObserveForm() {
 }
 
 void FormWindow::FillMethods() {
-  m_form.Show = [this] { m_form.Visible = true; };
+  m_form.Show = [this] {
+    m_form.Visible = true;
+    ComeForward();
+  };
+  m_form.ShowModal = [this] { ShowModal(); };
   m_form.Unload = [this] { close(); };
   m_form.Refresh = [this] { repaint(); };
-  m_form.SetFocus = [this] {
-    if (isVisible()) activateWindow();
-  };
+  m_form.SetFocus = [this] { ComeForward(); };
+}
+
+void FormWindow::ComeForward() {
+  if (!isVisible()) return;
+  setWindowState(windowState() & ~Qt::WindowMinimized);
+  raise();
+  activateWindow();
 }
 
 /// Brings the client area in line with the window. A hidden window does not do it by itself.
@@ -105,9 +115,24 @@ void FormWindow::ObeyState() {
 
 void FormWindow::ObeyVisible() {
   setVisible(m_form.Visible);
+  if (!m_form.Visible && m_pModalLoop != nullptr) m_pModalLoop->quit();
   if (!m_form.Visible || std::exchange(m_bShown, true)) return;
   TellSize();
   Fire(m_form.Resize);
+}
+
+/// Returns when the form was unloaded, by whatever road. A window that is there already must go and
+/// come again: modality is taken up in showing.
+void FormWindow::ShowModal() {
+  if (m_pModalLoop != nullptr) return;
+  hide();
+  setWindowModality(Qt::ApplicationModal);
+  m_form.Visible = true;
+  show();
+  QEventLoop loop;
+  const QScopedValueRollback modal(m_pModalLoop, &loop);
+  loop.exec();
+  setWindowModality(Qt::NonModal);
 }
 
 void FormWindow::TellSize() {

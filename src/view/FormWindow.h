@@ -4,6 +4,8 @@
 
 #include "form/Controls.h"
 
+class QEventLoop;
+
 namespace glidetrak {
 
 /// The window of a form: an optional menu bar with the client area below it. Left, Top, Width and
@@ -34,15 +36,18 @@ class FormWindow : public QMainWindow {
   void ObeyPlace();
   void ObeyState();
   void ObeyVisible();
+  void ShowModal();
   void TellSize();
   void TellPlace();
   void LayOut();
+  void ComeForward();
 
   Form& m_form;
-  QSize m_toldClient;       ///< the client area that the station knows
-  bool m_bTelling = false;  ///< the form's values follow the window, not the reverse
-  bool m_bShown = false;    ///< it was shown before
-  bool m_bClosing = false;  ///< a close is under way
+  QSize m_toldClient;                  ///< the client area that the station knows
+  bool m_bTelling = false;             ///< the form's values follow the window, not the reverse
+  bool m_bShown = false;               ///< it was shown before
+  bool m_bClosing = false;             ///< a close is under way
+  QEventLoop* m_pModalLoop = nullptr;  ///< waits for a modal showing to end; null without one
 };
 
 }  // namespace glidetrak

@@ -1,9 +1,12 @@
 #include "view/Labels.h"
 
 #include <QFontMetrics>
+#include <algorithm>
+#include <span>
 
 #include "form/frmAbout.h"
 #include "form/frmGlidetrak.h"
+#include "view/Fonts.h"
 #include "view/Observe.h"
 #include "view/Units.h"
 
@@ -15,12 +18,12 @@ namespace {
 enum class Look {
   Text,
   Legend,     ///< one line, centred, fitted to its place
+  Name,       ///< one line, growing to the right
   RightText,  ///< along the right edge
   TitleBar,   ///< the head of a floating panel
   Pane,       ///< framed
 };
 
-constexpr qreal fSmallestLegend = 0.72;  ///< of the design size; below that nobody reads it
 constexpr int iTitleIndent = 6;
 constexpr int iTitleDarkness = 150;
 
@@ -46,15 +49,22 @@ const LookRow LookTable[] = {
     {&lblHWState, Look::RightText},
     {&lblCopyright, Look::RightText},
     {&lblMsgTitle, Look::TitleBar},
+    {&lblProgName, Look::Name},
+    {&lblProgVer, Look::Name},
     {&CommandSelTitle, Look::TitleBar},
     {&fraHelp, Look::Pane},
 };
+
+bool IsMember(std::span<const Label> array, const Label& label) {
+  return std::ranges::any_of(array, [&](const Label& member) { return &member == &label; });
+}
 
 Look LookOf(const Label& label) {
   for (const LookRow& row : LookTable) {
     if (row.pLabel == &label) return row.look;
   }
-  return Look::Text;
+  const bool bBit = IsMember(lblInput, label) || IsMember(lblOutput, label);
+  return bBit ? Look::Name : Look::Text;
 }
 
 /// The colour holds for an inactive window too; a disabled label pales.
@@ -65,33 +75,26 @@ void ShowForeColour(QLabel* pWidget, QColor colour) {
   pWidget->setPalette(palette);
 }
 
-int LegendWidth(const QFont& font, const QString& sText) {
-  return QFontMetrics(font).horizontalAdvance(sText);
-}
-
-/// The design font, made smaller where the text needs it.
-QFont LegendFont(QFont font, const QString& sText, int iWidth) {
-  const int iDesign = font.pixelSize();
-  const int iSmallest = qRound(iDesign * fSmallestLegend);
-  for (int i = iDesign; i > iSmallest && LegendWidth(font, sText) > iWidth;) {
-    font.setPixelSize(--i);
-  }
-  return font;
+/// How far the text of one line reaches beyond its place.
+int Overhang(const QFont& font, const Label& label) {
+  return std::max(0, QFontMetrics(font).horizontalAdvance(label.Caption) - Pixels(label.Width));
 }
 
 void FitLegend(QLabel* pWidget, const Label& label, const QFont& designFont) {
-  QRect place = PlaceOf(label);
-  const QFont font = LegendFont(designFont, label.Caption, place.width());
-  const int iMissing = LegendWidth(font, label.Caption) - place.width();
-  if (iMissing > 0) place.adjust(-(iMissing + 1) / 2, 0, (iMissing + 1) / 2, 0);
+  const QFont font = FittingFont(designFont, label.Caption, Pixels(label.Width));
+  const int iSide = (Overhang(font, label) + 1) / 2;
   pWidget->setFont(font);
-  pWidget->setGeometry(place);
+  pWidget->setGeometry(PlaceOf(label).adjusted(-iSide, 0, iSide, 0));
 }
 
-void ShowLegend(QLabel* pWidget, Label& label, const QFont& font) {
+void FitName(QLabel* pWidget, const Label& label) {
+  pWidget->setGeometry(PlaceOf(label).adjusted(0, 0, Overhang(pWidget->font(), label), 0));
+}
+
+/// Keeps the widget fitted to its caption and its place.
+template <class Fit>
+void KeepFitting(QLabel* pWidget, Label& label, Fit fit) {
   pWidget->setWordWrap(false);
-  pWidget->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
-  const auto fit = [pWidget, &label, font] { FitLegend(pWidget, label, font); };
   ObserveChanges(pWidget, label.Caption, fit);
   ObservePlace(pWidget, label, fit);
 }
@@ -107,8 +110,8 @@ void ShowTitleBar(QLabel* pWidget) {
 
 void ApplyLook(QLabel* pWidget, Look look) {
   switch (look) {
-    case Look::Text:
     case Look::Legend:
+      pWidget->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
       break;
     case Look::RightText:
       pWidget->setAlignment(Qt::AlignRight | Qt::AlignTop);
@@ -119,6 +122,18 @@ void ApplyLook(QLabel* pWidget, Look look) {
     case Look::Pane:
       pWidget->setFrameStyle(QFrame::Box | QFrame::Plain);
       break;
+    default:
+      pWidget->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+  }
+}
+
+void PlaceLabel(QLabel* pWidget, Label& label, Look look, const QFont& font) {
+  if (look == Look::Legend) {
+    KeepFitting(pWidget, label, [pWidget, &label, font] { FitLegend(pWidget, label, font); });
+  } else if (look == Look::Name) {
+    KeepFitting(pWidget, label, [pWidget, &label] { FitName(pWidget, label); });
+  } else {
+    ObservePlace(pWidget, label, [pWidget, &label] { pWidget->setGeometry(PlaceOf(label)); });
   }
 }
 
@@ -128,18 +143,12 @@ QLabel* MakeLabel(Label& label, const QFont& font, QWidget* pParent) {
   auto* pWidget = new QLabel(pParent);
   pWidget->setTextFormat(Qt::PlainText);
   pWidget->setWordWrap(true);
-  pWidget->setAlignment(Qt::AlignLeft | Qt::AlignTop);
   pWidget->setFont(font);
   Observe(pWidget, label.Caption, [pWidget, &label] { pWidget->setText(label.Caption); });
   Observe(pWidget, label.ForeColor,
           [pWidget, &label] { ShowForeColour(pWidget, ColourOf(label.ForeColor)); });
-  const Look look = LookOf(label);
-  if (look == Look::Legend) {
-    ShowLegend(pWidget, label, font);
-  } else {
-    ApplyLook(pWidget, look);
-    ObservePlace(pWidget, label, [pWidget, &label] { pWidget->setGeometry(PlaceOf(label)); });
-  }
+  ApplyLook(pWidget, LookOf(label));
+  PlaceLabel(pWidget, label, LookOf(label), font);
   return pWidget;
 }
 

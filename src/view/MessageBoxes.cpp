@@ -4,6 +4,8 @@
 #include <QKeyEvent>
 #include <QMessageBox>
 
+#include "view/ToolkitTexts.h"
+
 namespace glidetrak {
 
 namespace {
@@ -55,6 +57,7 @@ BoxAnswer Tell(QMessageBox& box) {
 
 BoxAnswer ShowMessageBox(const QString& sText, const QString& sTitle, BoxIcon icon,
                          BoxButtons buttons) {
+  InstallToolkitTexts();
   if (buttons == BoxButtons::YesNo) {
     QuestionBox box(QApplication::activeWindow());
     Prepare(box, sText, sTitle, icon);

@@ -8,9 +8,9 @@
 #include "form/frmAbout.h"
 #include "form/frmGlidetrak.h"
 #include "view/ControlWidgets.h"
-#include "view/FormWindow.h"
+#include "view/MainWindow.h"
 #include "view/MenuBar.h"
-#include "view/MessageBoxes.h"
+#include "view/Monitors.h"
 #include "view/Pointers.h"
 #include "view/RunKeys.h"
 
@@ -20,12 +20,12 @@ namespace {
 
 FormWindow* pMainWindow = nullptr;
 
-/// Owns the About window, and everything else of the view.
+/// The main window owns the About window and everything else of the view.
 void DestroyView() {
   delete std::exchange(pMainWindow, nullptr);
 }
 
-QWidget* Widget(const char* sName) {
+QWidget* Widget(const QString& sName) {
   return pMainWindow->findChild<QWidget*>(sName);
 }
 
@@ -33,7 +33,7 @@ QWidget* Widget(const char* sName) {
 /// backgrounds lie lowest, the focus keeper behind the editor, and the lamps' frames behind the
 /// lamps.
 void OrderOverlaps() {
-  for (int i = 8; i < 24; ++i) Widget(qPrintable(QString("ledOutput_%1").arg(i)))->lower();
+  for (int i = 8; i < 24; ++i) Widget(QString("ledOutput_%1").arg(i))->lower();
   for (const char* sName :
        {"txtFocusGrab", "imgSensors", "imgControls", "imgProgBoxBack", "imgHardware"}) {
     Widget(sName)->lower();
@@ -48,7 +48,6 @@ void BuildMainForm() {
   MakeControls(MainFormTable(), pMainWindow->Client(), *new FocusKeeper(pMainWindow));
   OrderOverlaps();
   pMainWindow->FitClient();
-  ObserveScreenPointer(pMainWindow);
   new RunKeys(pMainWindow);
 }
 
@@ -59,24 +58,24 @@ void BuildAboutForm() {
   pWindow->setFixedSize(pWindow->size());
 }
 
+void WatchScreen() {
+  TellScreenSize();
+  QObject::connect(qApp, &QGuiApplication::primaryScreenChanged, pMainWindow, TellScreenSize);
+  ObserveScreenPointer(pMainWindow);
+}
+
 }  // namespace
 
-void ViewDesktop::PumpEvents() {
-  QCoreApplication::processEvents();
+FormWindow* MainWindow() {
+  return pMainWindow;
 }
 
-BoxAnswer ViewDesktop::ShowBox(const QString& sText, const QString& sTitle, BoxIcon icon,
-                               BoxButtons buttons) {
-  return ShowMessageBox(sText, sTitle, icon, buttons);
-}
-
-void ViewDesktop::Beep() {
-  QApplication::beep();
-}
-
+/// A box that closes while the main window is still hidden would else be taken for the last window.
 void BuildView() {
+  QGuiApplication::setQuitOnLastWindowClosed(false);
   BuildMainForm();
   BuildAboutForm();
+  WatchScreen();
 }
 
 }  // namespace glidetrak

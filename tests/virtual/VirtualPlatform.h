@@ -98,6 +98,8 @@ class VirtualPlatform : public Machine, public Desktop {
   void DeleteFile(const QString& sPath) override;
   QString ExecutableFolder() override { return sExecutableFolder; }
   void SetCurrentFolder(const QString& sPath) override { sCurrentFolder = sPath; }
+  QString NativePath(const QString& sStationPath) override { return sStationPath; }
+  QString StationPath(const QString& sNativePath) override { return sNativePath; }
   QString DocumentsFolder() override;
   QString ReadSetting(Scope scope, const QString& sKey, const QString& sName) override;
   bool WriteSetting(Scope scope, const QString& sKey, const QString& sName,

@@ -25,6 +25,10 @@ class LinuxMachine : public Machine {
   void DeleteFile(const QString& sPath) override;
   QString ExecutableFolder() override;
   void SetCurrentFolder(const QString& sPath) override;
+  QString NativePath(const QString& sStationPath) override { return m_paths.Native(sStationPath); }
+  QString StationPath(const QString& sNativePath) override {
+    return LinuxPaths::Station(sNativePath);
+  }
   QString DocumentsFolder() override;
   QString ReadSetting(Scope scope, const QString& sKey, const QString& sName) override;
   bool WriteSetting(Scope scope, const QString& sKey, const QString& sName,

@@ -31,7 +31,7 @@ QString Lookup(const QString& sPath) {
 QString ArgumentText(const QString& sArgument) {
   const QFileInfo file(sArgument);
   if (!file.exists()) return sArgument;
-  const QString sPath = StationPath(QDir::cleanPath(file.absoluteFilePath()));
+  const QString sPath = LinuxPaths::Station(QDir::cleanPath(file.absoluteFilePath()));
   return sPath.contains(u' ') ? u'"' + sPath + u'"' : sPath;
 }
 
@@ -48,8 +48,9 @@ QString LinuxPaths::Native(const QString& sStationPath) {
   return sNative;
 }
 
-QString StationPath(QString sNative) {
-  return sNative.replace(u'/', u'\\');
+QString LinuxPaths::Station(const QString& sNative) {
+  QString sPath = sNative;
+  return sPath.replace(u'/', u'\\');
 }
 
 QString CommandLine(const QStringList& aArguments) {

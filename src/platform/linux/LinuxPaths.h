@@ -15,12 +15,12 @@ class LinuxPaths {
   /// was once found, also after it was deleted.
   QString Native(const QString& sStationPath);
 
+  /// A native path written the station's way.
+  static QString Station(const QString& sNative);
+
  private:
   QHash<QString, QString> m_aFound;  ///< upper-case station path to native path
 };
-
-/// A native path written the station's way.
-QString StationPath(QString sNative);
 
 /// The arguments behind the program's name as one raw text. One that names a file becomes a
 /// station path from the root, in double quotes when it holds a blank; a relative one means the

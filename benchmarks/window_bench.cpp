@@ -1,0 +1,196 @@
+// Figures of the real window with the bench rig: window_bench loop|tick|emergency|idle. Needs a
+// display; run it through benchmarks/run, which brings one along.
+
+#include <sys/resource.h>
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QMouseEvent>
+#include <QTimer>
+#include <QWidget>
+#include <algorithm>
+#include <cstdio>
+#include <vector>
+
+#include "common/SharedState.h"
+#include "form/ControlTable.h"
+#include "form/frmGlidetrak.h"
+#include "language/RunControl.h"
+#include "platform/linux/LinuxMachine.h"
+#include "shell/Events.h"
+#include "shell/StartUp.h"
+#include "view/View.h"
+
+namespace {
+
+using namespace glidetrak;
+
+constexpr int iMeasuredTime = 10'000;  ///< milliseconds
+
+/// Notes when the byte of a stopped motor was last handed to the adapter.
+class TimedMachine : public LinuxMachine {
+ public:
+  qint32 CallTrackport(const char* sOperation, std::initializer_list<qint32> arguments) override {
+    if (QByteArray(sOperation) == "WriteAdapter" && (arguments.begin()[1] & 15) == 0) {
+      m_lStopped = m_clock.nsecsElapsed();
+    }
+    return LinuxMachine::CallTrackport(sOperation, arguments);
+  }
+  void Start() { m_clock.start(); }
+  qint64 Now() const { return m_clock.nsecsElapsed(); }
+  qint64 LastStop() const { return m_lStopped; }
+
+ private:
+  QElapsedTimer m_clock;
+  qint64 m_lStopped = 0;
+};
+
+TimedMachine machine;
+
+double Quantile(std::vector<double> aValues, double fShare) {
+  if (aValues.empty()) return 0;
+  std::sort(aValues.begin(), aValues.end());
+  const auto iLast = static_cast<double>(aValues.size() - 1);
+  return aValues[static_cast<size_t>(fShare * iLast)];
+}
+
+void WaitFor(int iMilliseconds) {
+  QEventLoop loop;
+  QTimer::singleShot(iMilliseconds, Qt::PreciseTimer, &loop, &QEventLoop::quit);
+  loop.exec();
+}
+
+void RunFor(const char* sProgram, int iMilliseconds) {
+  if (iControlMode == modeManual) cmdProgram.Click();
+  txtProgram.SetText(sProgram);
+  QTimer::singleShot(iMilliseconds, Qt::PreciseTimer, [] { StopProgram(); });
+  cmdRunProgram.Click();
+}
+
+void MeasureLoop() {
+  int iLines = 0;
+  double fSeconds = 0;
+  const auto original = txtProgram.SelectionSet.Function();
+  QElapsedTimer clock;
+  txtProgram.SelectionSet = [&](int iStart, int iLength) {
+    original(iStart, iLength);
+    if (!bProgramRunning || lCurrentLine >= 3) return;
+    if (++iLines == 10) clock.start();  // behind the compile's and the resolve pass's selections
+    if (iLines > 10) fSeconds = static_cast<double>(clock.nsecsElapsed()) * 1e-9;
+  };
+  RunFor("LABEL AGAIN\r\nLET A=1\r\nGOTO AGAIN", iMeasuredTime);
+  std::printf("loop: %.2f lines a second (limit: at least 39.9)\n", (iLines - 10) / fSeconds);
+}
+
+std::vector<double> MeasureBareTimer() {
+  std::vector<double> aIntervals;
+  QElapsedTimer clock;
+  QTimer timer;
+  timer.setTimerType(Qt::PreciseTimer);
+  QObject::connect(&timer, &QTimer::timeout, [&] {
+    if (clock.isValid()) aIntervals.push_back(static_cast<double>(clock.nsecsElapsed()) * 1e-6);
+    clock.start();
+  });
+  timer.start(5);
+  WaitFor(iMeasuredTime);
+  return aIntervals;
+}
+
+std::vector<double> MeasureTicks() {
+  std::vector<double> aIntervals;
+  QElapsedTimer clock;
+  const auto original = tmrSystem.Fired.Function();
+  tmrSystem.Fired = [&] {
+    if (clock.isValid() && tmrSystem.Interval == 5) {
+      aIntervals.push_back(static_cast<double>(clock.nsecsElapsed()) * 1e-6);
+    }
+    clock.start();
+    original();
+  };
+  RunFor("LABEL AGAIN\r\nLET A=1\r\nGOTO AGAIN", iMeasuredTime);
+  tmrSystem.Fired = original;
+  return aIntervals;
+}
+
+void MeasureTick() {
+  const std::vector<double> aBare = MeasureBareTimer();
+  const std::vector<double> aTicks = MeasureTicks();
+  const double fRatio = Quantile(aTicks, 0.99) / Quantile(aBare, 0.99);
+  std::printf(
+      "tick: median %.2f ms (limit: 5.0), 99th percentile %.2f ms, %.2f times that of a bare "
+      "timer (limit: 1.2), %zu ticks\n",
+      Quantile(aTicks, 0.5), Quantile(aTicks, 0.99), fRatio, aTicks.size());
+}
+
+QWidget* FindWidget(const QString& sName) {
+  for (QWidget* pWidget : QApplication::allWidgets()) {
+    if (pWidget->objectName() == sName) return pWidget;
+  }
+  return nullptr;
+}
+
+void PressEmergency(std::vector<double>& aDelays, qint64& lPressed) {
+  if (lPressed > 0) aDelays.push_back(static_cast<double>(machine.LastStop() - lPressed) * 1e-6);
+  QWidget* pButton = FindWidget("btnEmergency");
+  const QPointF place(10, 10);
+  lPressed = machine.Now();
+  QCoreApplication::postEvent(
+      pButton, new QMouseEvent(QEvent::MouseButtonPress, place, pButton->mapToGlobal(place),
+                               Qt::LeftButton, Qt::LeftButton, Qt::NoModifier));
+}
+
+/// The stop ends the program, so each press belongs to a run of its own.
+void MeasureEmergency() {
+  std::vector<double> aDelays;
+  qint64 lPressed = 0;
+  cmdProgram.Click();
+  txtProgram.SetText("POWER 9\r\nLABEL AGAIN\r\nLET A=A\r\nGOTO AGAIN");
+  for (int i = 0; i <= 20; ++i) {
+    QTimer::singleShot(310, Qt::PreciseTimer, [&] { PressEmergency(aDelays, lPressed); });
+    cmdRunProgram.Click();
+  }
+  std::printf("emergency: median %.3f ms from the press to the zero byte (limit: 1), %zu presses\n",
+              Quantile(aDelays, 0.5), aDelays.size());
+}
+
+double ProcessorSeconds() {
+  rusage usage{};
+  getrusage(RUSAGE_SELF, &usage);
+  const auto seconds = [](const timeval& t) {
+    return static_cast<double>(t.tv_sec) + static_cast<double>(t.tv_usec) * 1e-6;
+  };
+  return seconds(usage.ru_utime) + seconds(usage.ru_stime);
+}
+
+void MeasureIdle() {
+  const double fBefore = ProcessorSeconds();
+  WaitFor(iMeasuredTime);
+  const double fShare = (ProcessorSeconds() - fBefore) / (iMeasuredTime * 1e-3);
+  std::printf("idle: %.2f %% of a core with the link %s (limit: 2)\n", fShare * 100,
+              bLinkUp ? "up" : "down");
+}
+
+void Measure(const QString& sWhat) {
+  if (sWhat == "loop") MeasureLoop();
+  if (sWhat == "tick") MeasureTick();
+  if (sWhat == "emergency") MeasureEmergency();
+  if (sWhat == "idle") MeasureIdle();
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  QApplication application(argc, argv);
+  ViewDesktop desktop;
+  pMachine = &machine;
+  pDesktop = &desktop;
+  machine.Start();
+  ResetForms();
+  WireEvents();
+  BuildView();
+  Form_Load({});
+  WaitFor(7000);  // the start-up box has gone
+  Measure(QApplication::arguments().value(1));
+  std::fflush(stdout);
+  machine.EndProcess();
+}

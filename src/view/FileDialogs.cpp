@@ -1,0 +1,89 @@
+#include "view/FileDialogs.h"
+
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+
+#include "platform/Platform.h"
+#include "view/ToolkitTexts.h"
+
+namespace glidetrak {
+
+namespace {
+
+/// The texts of the filter; each ends in its own pattern, which is where the toolkit reads it.
+QStringList NameFilters(const QString& sFilter) {
+  const QStringList aParts = sFilter.split(u'|');
+  QStringList aFilters;
+  for (qsizetype i = 0; i < aParts.size(); i += 2) aFilters.append(aParts[i]);
+  return aFilters;
+}
+
+/// A pattern in place of a name asks for the files of that pattern, which the filter shows anyway.
+void OfferName(QFileDialog& box, const QString& sName) {
+  if (sName.isEmpty() || sName.contains(u'*')) return;
+  const QFileInfo offered(pMachine->NativePath(sName));
+  if (sName.contains(u'\\') && offered.dir().exists()) box.setDirectory(offered.dir());
+  box.selectFile(offered.fileName());
+}
+
+/// The toolkit's own dialog: a session's native one asks before it overwrites.
+void Prepare(QFileDialog& box, const FileDialog& dialog) {
+  box.setOptions(QFileDialog::DontUseNativeDialog | QFileDialog::DontConfirmOverwrite);
+  box.setWindowTitle(dialog.DialogTitle);
+  box.setNameFilters(NameFilters(dialog.Filter));
+  const QStringList aFilters = box.nameFilters();
+  if (dialog.FilterIndex >= 1 && dialog.FilterIndex <= aFilters.size()) {
+    box.selectNameFilter(aFilters[dialog.FilterIndex - 1]);
+  }
+  box.setDefaultSuffix(dialog.DefaultExt);
+  box.setDirectory(pMachine->NativePath(dialog.InitDir));
+  OfferName(box, dialog.FileName);
+}
+
+void TakeName(FileDialog& dialog, const QFileInfo& chosen) {
+  dialog.FileName = pMachine->StationPath(chosen.filePath());
+  dialog.FileTitle = chosen.fileName();
+  dialog.Flags &= ~dlgExtensionDifferent;
+  if (chosen.suffix().compare(dialog.DefaultExt, Qt::CaseInsensitive) != 0) {
+    dialog.Flags |= dlgExtensionDifferent;
+  }
+}
+
+void Run(QFileDialog& box, FileDialog& dialog) {
+  Prepare(box, dialog);
+  if (box.exec() == QDialog::Accepted) {
+    TakeName(dialog, QFileInfo(box.selectedFiles().constFirst()));
+    return;
+  }
+  dialog.FileName.clear();
+  dialog.FileTitle.clear();
+  if (dialog.CancelError) throw RuntimeError(Fault::Cancelled);
+}
+
+void ShowOpen(FileDialog& dialog, QWidget* pWindow) {
+  InstallToolkitTexts();
+  QFileDialog box(pWindow);
+  box.setAcceptMode(QFileDialog::AcceptOpen);
+  box.setFileMode((dialog.Flags & dlgFileMustExist) != 0 ? QFileDialog::ExistingFile
+                                                         : QFileDialog::AnyFile);
+  Run(box, dialog);
+}
+
+/// New names are welcome whatever the flags say.
+void ShowSave(FileDialog& dialog, QWidget* pWindow) {
+  InstallToolkitTexts();
+  QFileDialog box(pWindow);
+  box.setAcceptMode(QFileDialog::AcceptSave);
+  box.setFileMode(QFileDialog::AnyFile);
+  Run(box, dialog);
+}
+
+}  // namespace
+
+void WireFileDialog(FileDialog& dialog, QWidget* pWindow) {
+  dialog.ShowOpen = [&dialog, pWindow] { ShowOpen(dialog, pWindow); };
+  dialog.ShowSave = [&dialog, pWindow] { ShowSave(dialog, pWindow); };
+}
+
+}  // namespace glidetrak

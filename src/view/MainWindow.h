@@ -1,0 +1,10 @@
+#pragma once
+
+#include "view/FormWindow.h"
+
+namespace glidetrak {
+
+/// The window of frmGlidetrak; null before BuildView and after the application object has gone.
+FormWindow* MainWindow();
+
+}  // namespace glidetrak

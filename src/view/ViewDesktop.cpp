@@ -1,0 +1,53 @@
+#include <QApplication>
+#include <QScreen>
+
+#include "form/frmGlidetrak.h"
+#include "view/MainWindow.h"
+#include "view/MessageBoxes.h"
+#include "view/Monitors.h"
+#include "view/Units.h"
+#include "view/View.h"
+
+namespace glidetrak {
+
+void ViewDesktop::PumpEvents() {
+  QCoreApplication::processEvents();
+}
+
+BoxAnswer ViewDesktop::ShowBox(const QString& sText, const QString& sTitle, BoxIcon icon,
+                               BoxButtons buttons) {
+  return ShowMessageBox(sText, sTitle, icon, buttons);
+}
+
+void ViewDesktop::Beep() {
+  QApplication::beep();
+}
+
+std::optional<PixelRect> ViewDesktop::NearestMonitor() {
+  return RectOf(NearestScreen(MainWindow()->geometry()));
+}
+
+std::optional<PixelRect> ViewDesktop::WorkArea() {
+  const QScreen* pScreen = QGuiApplication::primaryScreen();
+  return RectOf(pScreen != nullptr ? pScreen->availableGeometry() : QRect());
+}
+
+std::optional<PixelRect> ViewDesktop::NormalRect() {
+  return RectOf(MainWindow()->normalGeometry());
+}
+
+std::optional<PixelRect> ViewDesktop::WindowRect() {
+  return RectOf(MainWindow()->geometry());
+}
+
+void ViewDesktop::MoveWindow(qint32 lLeft, qint32 lTop) {
+  frmGlidetrak.Left = Twips(lLeft);
+  frmGlidetrak.Top = Twips(lTop);
+  frmGlidetrak.Refresh();
+}
+
+bool ViewDesktop::IsMainWindowActive() {
+  return MainWindow()->isActiveWindow();
+}
+
+}  // namespace glidetrak

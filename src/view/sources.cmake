@@ -1,0 +1,30 @@
+# The files of view/, and the pictures compiled in.
+set(VIEW_SOURCES
+  view/ChoiceWidgets.cpp
+  view/ControlWidgets.cpp
+  view/Displays.cpp
+  view/EditorText.cpp
+  view/EventRelay.cpp
+  view/FileDialogs.cpp
+  view/FocusKeeper.cpp
+  view/Fonts.cpp
+  view/FormWindow.cpp
+  view/ImageButtonWidget.cpp
+  view/KeyCodes.cpp
+  view/Labels.cpp
+  view/MenuBar.cpp
+  view/MessageBoxes.cpp
+  view/Monitors.cpp
+  view/PanelWidgets.cpp
+  view/PictureStore.cpp
+  view/PictureWidget.cpp
+  view/Pointers.cpp
+  view/ProgramEditor.cpp
+  view/RunKeys.cpp
+  view/TextColours.cpp
+  view/TextWidgets.cpp
+  view/Timers.cpp
+  view/ToolkitTexts.cpp
+  view/View.cpp
+  view/ViewDesktop.cpp)
+qt_add_resources(VIEW_SOURCES view/pictures.qrc)
