@@ -27,18 +27,20 @@ using namespace glidetrak;
 
 constexpr int iMeasuredTime = 10'000;  ///< milliseconds
 
-/// Notes when the byte of a stopped motor was last handed to the adapter.
+/// Notes when the byte of a stopped motor is first handed to the adapter behind a press.
 class TimedMachine : public LinuxMachine {
  public:
   qint32 CallTrackport(const char* sOperation, std::initializer_list<qint32> arguments) override {
     if (QByteArray(sOperation) == "WriteAdapter" && (arguments.begin()[1] & 15) == 0) {
-      m_lStopped = m_clock.nsecsElapsed();
+      if (m_lStopped == 0) m_lStopped = m_clock.nsecsElapsed();
     }
     return LinuxMachine::CallTrackport(sOperation, arguments);
   }
-  void Start() { m_clock.start(); }
-  qint64 Now() const { return m_clock.nsecsElapsed(); }
-  qint64 LastStop() const { return m_lStopped; }
+  void NotePress() {
+    m_clock.start();
+    m_lStopped = 0;
+  }
+  double MillisecondsToStop() const { return static_cast<double>(m_lStopped) * 1e-6; }
 
  private:
   QElapsedTimer m_clock;
@@ -129,11 +131,10 @@ QWidget* FindWidget(const QString& sName) {
   return nullptr;
 }
 
-void PressEmergency(std::vector<double>& aDelays, qint64& lPressed) {
-  if (lPressed > 0) aDelays.push_back(static_cast<double>(machine.LastStop() - lPressed) * 1e-6);
+void PressEmergency() {
   QWidget* pButton = FindWidget("btnEmergency");
   const QPointF place(10, 10);
-  lPressed = machine.Now();
+  machine.NotePress();
   QCoreApplication::postEvent(
       pButton, new QMouseEvent(QEvent::MouseButtonPress, place, pButton->mapToGlobal(place),
                                Qt::LeftButton, Qt::LeftButton, Qt::NoModifier));
@@ -142,12 +143,12 @@ void PressEmergency(std::vector<double>& aDelays, qint64& lPressed) {
 /// The stop ends the program, so each press belongs to a run of its own.
 void MeasureEmergency() {
   std::vector<double> aDelays;
-  qint64 lPressed = 0;
   cmdProgram.Click();
   txtProgram.SetText("POWER 9\r\nLABEL AGAIN\r\nLET A=A\r\nGOTO AGAIN");
-  for (int i = 0; i <= 20; ++i) {
-    QTimer::singleShot(310, Qt::PreciseTimer, [&] { PressEmergency(aDelays, lPressed); });
+  for (int i = 0; i < 20; ++i) {
+    QTimer::singleShot(310 + 7 * i, Qt::PreciseTimer, PressEmergency);
     cmdRunProgram.Click();
+    aDelays.push_back(machine.MillisecondsToStop());
   }
   std::printf("emergency: median %.3f ms from the press to the zero byte (limit: 1), %zu presses\n",
               Quantile(aDelays, 0.5), aDelays.size());
@@ -184,7 +185,6 @@ int main(int argc, char** argv) {
   ViewDesktop desktop;
   pMachine = &machine;
   pDesktop = &desktop;
-  machine.Start();
   ResetForms();
   WireEvents();
   BuildView();

@@ -5,6 +5,7 @@
 #include "form/ControlTable.h"
 #include "form/frmGlidetrak.h"
 #include "platform/linux/LinuxMachine.h"
+#include "platform/linux/LinuxSignals.h"
 #include "shell/Events.h"
 #include "shell/StartUp.h"
 #include "view/View.h"
@@ -17,6 +18,8 @@ int main(int argc, char** argv) {
   glidetrak::pDesktop = &desktop;
 
   machine.SetActivation([] { glidetrak::frmGlidetrak.SetFocus(); });
+
+  glidetrak::OnTermination([] { glidetrak::frmGlidetrak.FormUnload(); });
 
   glidetrak::ResetForms();
   glidetrak::WireEvents();

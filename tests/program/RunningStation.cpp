@@ -1,0 +1,162 @@
+#include "RunningStation.h"
+
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QThread>
+
+namespace glidetrak {
+
+namespace {
+
+constexpr int iPatience = 5000;    ///< milliseconds that anything may take to show
+constexpr int iStartupBox = 6800;  ///< the start-up box stays for six seconds
+const char* const sMainTitle = "Glidetrak Control|Control del sistema Glidetrak";
+
+template <class Condition>
+bool WaitUntil(Condition condition) {
+  QElapsedTimer clock;
+  clock.start();
+  while (clock.elapsed() < iPatience) {
+    if (condition()) return true;
+    Wait(50);
+  }
+  return false;
+}
+
+}  // namespace
+
+void Wait(int iMilliseconds) {
+  QThread::msleep(static_cast<unsigned long>(iMilliseconds));
+}
+
+RunningStation::RunningStation() : m_environment(QProcessEnvironment::systemEnvironment()) {
+  QDir(Folder()).mkpath("run");
+  QDir(Folder()).mkpath("home/Documents");
+  QFile::setPermissions(Folder() + "/run", QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+  m_environment.insert("HOME", Folder() + "/home");
+  m_environment.insert("XDG_RUNTIME_DIR", Folder() + "/run");
+  m_environment.insert("XDG_CONFIG_HOME", Folder() + "/config");
+  m_environment.insert("XDG_CONFIG_DIRS", Folder() + "/machine");
+  m_environment.insert("LC_ALL", "C.UTF-8");
+  m_environment.remove("QT_QPA_PLATFORM");
+  WaitForDisplay();
+}
+
+RunningStation::~RunningStation() {
+  m_station.kill();
+  m_station.waitForFinished();
+  m_display.terminate();
+  m_display.waitForFinished();
+}
+
+bool RunningStation::WaitForDisplay() {
+  m_display.start(
+      "Xvfb", {"-displayfd", "1", "-screen", "0", "1280x900x24", "-nolisten", "tcp", "-noreset"});
+  if (!m_display.waitForReadyRead(iPatience)) return false;
+  m_environment.insert("DISPLAY", ":" + QString::fromLatin1(m_display.readLine().trimmed()));
+  return true;
+}
+
+bool RunningStation::Start(const QStringList& aArguments) {
+  m_station.setProcessEnvironment(m_environment);
+  m_station.setWorkingDirectory(Folder());
+  m_station.start(GLIDETRAK_STATION, aArguments);
+  if (!m_station.waitForStarted() || !HasWindow(sMainTitle)) return false;
+  Wait(iStartupBox);
+  return IsRunning();
+}
+
+bool RunningStation::StartSecondCopy(QProcess& process) {
+  process.setProcessEnvironment(m_environment);
+  process.start(GLIDETRAK_STATION, QStringList());
+  return process.waitForStarted();
+}
+
+QString RunningStation::Output(const QString& sProgram, const QStringList& aArguments) {
+  QProcess process;
+  process.setProcessEnvironment(m_environment);
+  process.start(sProgram, aArguments);
+  process.waitForFinished();
+  return QString::fromUtf8(process.readAllStandardOutput());
+}
+
+void RunningStation::MoveTo(Place place) {
+  Output("xdotool", {"mousemove", QString::number(place.iX), QString::number(place.iY)});
+  Wait(100);
+}
+
+void RunningStation::Click(Place place) {
+  MoveTo(place);
+  Output("xdotool", {"click", "1"});
+  Wait(150);
+}
+
+void RunningStation::Drag(Place from, Place to) {
+  MoveTo(from);
+  Output("xdotool", {"mousedown", "1"});
+  const int iSteps = 10;
+  for (int i = 1; i <= iSteps; ++i) {
+    MoveTo({from.iX + (to.iX - from.iX) * i / iSteps, from.iY + (to.iY - from.iY) * i / iSteps});
+  }
+  Output("xdotool", {"mouseup", "1"});
+  Wait(100);
+}
+
+void RunningStation::Key(const QString& sKeys) {
+  Output("xdotool", {"key", sKeys});
+  Wait(150);
+}
+
+void RunningStation::Type(const QString& sText) {
+  Output("xdotool", {"type", "--delay", "15", sText});
+  Wait(150);
+}
+
+void RunningStation::CloseWindow() {
+  const QString sWindow =
+      Output("xdotool", {"search", "--onlyvisible", "--name", sMainTitle}).section(u'\n', 0, 0);
+  Output("xdotool", {"windowclose", sWindow});
+}
+
+bool RunningStation::HasWindow(const QString& sTitle) {
+  return WaitUntil([&] {
+    return !Output("xdotool", {"search", "--onlyvisible", "--name", sTitle}).isEmpty();
+  });
+}
+
+QString RunningStation::Geometry(const QString& sTitle) {
+  const QString sWindow =
+      Output("xdotool", {"search", "--onlyvisible", "--name", sTitle}).section(u'\n', 0, 0);
+  const QString sShell = Output("xdotool", {"getwindowgeometry", "--shell", sWindow});
+  QStringList aValues;
+  for (const QString& sLine : sShell.split(u'\n')) {
+    const QString sName = sLine.section(u'=', 0, 0);
+    if (QStringList{"X", "Y", "WIDTH", "HEIGHT"}.contains(sName)) {
+      aValues.append(sLine.section(u'=', 1));
+    }
+  }
+  return aValues.join(u' ');
+}
+
+QString RunningStation::Rig(const QStringList& aArguments) {
+  return Output(GLIDETRAK_BENCH_RIG, aArguments);
+}
+
+bool RunningStation::RigShows(const QString& sLine) {
+  return WaitUntil([&] { return Rig({"state"}).split(u'\n').contains(sLine); });
+}
+
+void RunningStation::Picture(const QString& sName) {
+  QDir().mkpath(GLIDETRAK_PICTURES);
+  Output("import", {"-window", "root", QString(GLIDETRAK_PICTURES) + '/' + sName + ".png"});
+}
+
+QString RunningStation::WriteProgram(const QString& sName, const QByteArray& text) {
+  const QString sPath = Folder() + '/' + sName;
+  QFile file(sPath);
+  if (file.open(QIODevice::WriteOnly)) file.write(text);
+  return sPath;
+}
+
+}  // namespace glidetrak
