@@ -102,7 +102,9 @@ TEST(Program, ATypedProgramIsSavedUnderANewName) {
   for (int i = 0; i < 3; ++i) station.Key("Down");
   station.Key("Return");
   ASSERT_TRUE(station.HasWindow("Save Program"));
-  station.Type(station.Folder() + "/mine\n");
+  station.Type(station.Folder() + "/mine");
+  station.Picture("saving");
+  station.Key("Return");
   EXPECT_TRUE(station.HasWindow("MINE.GTP : Glidetrak Control"));
   EXPECT_EQ(ReadWhole(station.Folder() + "/mine.GTP"), "PRINT \"A\"\r\nBEEP");
 }

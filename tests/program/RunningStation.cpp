@@ -108,9 +108,14 @@ void RunningStation::Key(const QString& sKeys) {
   Wait(150);
 }
 
+/// Line ends are keys of their own: typed within a text they get lost now and then.
 void RunningStation::Type(const QString& sText) {
-  Output("xdotool", {"type", "--delay", "15", sText});
-  Wait(150);
+  const QStringList aLines = sText.split(u'\n');
+  for (qsizetype i = 0; i < aLines.size(); ++i) {
+    if (i > 0) Key("Return");
+    Output("xdotool", {"type", "--delay", "15", aLines[i]});
+    Wait(150);
+  }
 }
 
 void RunningStation::CloseWindow() {
