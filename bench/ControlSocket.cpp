@@ -31,7 +31,7 @@ std::string Variable(const char* sName) {
 
 /// A folder under /tmp that nobody else can have prepared for us.
 std::string OwnFolder() {
-  const std::string sFolder = "/tmp/glidetrak-bench-" + std::to_string(getuid());
+  std::string sFolder = "/tmp/glidetrak-bench-" + std::to_string(getuid());
   mkdir(sFolder.c_str(), S_IRWXU);
   struct stat status {};
   if (lstat(sFolder.c_str(), &status) != 0) ThrowSystemError("cannot make " + sFolder);
@@ -122,7 +122,7 @@ FileDescriptor Listen(const std::string& sPath) {
 }  // namespace
 
 std::string ControlSocketPath() {
-  const std::string sGiven = Variable("GLIDETRAK_BENCH_SOCKET");
+  std::string sGiven = Variable("GLIDETRAK_BENCH_SOCKET");
   if (!sGiven.empty()) return sGiven;
   const std::string sRunTime = Variable("XDG_RUNTIME_DIR");
   return (sRunTime.empty() ? OwnFolder() : sRunTime) + "/glidetrak-bench.socket";

@@ -88,9 +88,9 @@ void TrackModel::CountDown() {
 
 double TrackModel::Acceleration() const {
   const double fDrive = (m_bForward ? 1 : -1) * m_iPower * fAccelerationPerLevel;
-  if (m_fSpeed != 0) return fDrive - Sign(m_fSpeed) * (fFriction + fDrag * m_fSpeed * m_fSpeed);
-  if (std::abs(fDrive) <= fFriction) return 0;
-  return fDrive - Sign(fDrive) * fFriction;
+  if (m_fSpeed == 0 && std::abs(fDrive) <= fFriction) return 0;
+  const double fHeading = Sign(m_fSpeed == 0 ? fDrive : m_fSpeed);
+  return fDrive - fHeading * (fFriction + fDrag * m_fSpeed * m_fSpeed);
 }
 
 void TrackModel::Move() {
@@ -111,7 +111,7 @@ void TrackModel::MeetBuffer(double fBuffer) {
 }
 
 void TrackModel::FeelImpact(double fSpeed) {
-  const int iValue = std::min(iMostImpact, static_cast<int>(fSpeed / fImpactStep));
+  const int iValue = static_cast<int>(fSpeed / fImpactStep);
   // The smaller knocks of the rebounds do not cut the great one short.
   if (iValue == 0 || iValue < m_iImpact) return;
   m_iImpact = iValue;

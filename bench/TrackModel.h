@@ -37,8 +37,9 @@ constexpr double fDrag =
 // the impact bar, so that none goes unseen, and then sinks to 0 within 600 ms.
 constexpr double fBounce = 0.3;     ///< speed that comes back out of a buffer, of 1 that went in
 constexpr double fRestSpeed = 20;   ///< mm/s; a slower rebound is swallowed by the buffer
-constexpr double fImpactStep = 35;  ///< mm/s for each step of the value; full speed reaches 15
+constexpr double fImpactStep = 36;  ///< mm/s for each step of the value; full speed reaches 15
 constexpr int iMostImpact = 15;
+static_assert(fTopSpeed < fImpactStep * (iMostImpact + 1));
 constexpr int iImpactHold = 600;
 constexpr int iImpactDecay = 40;  ///< ms for each step down
 

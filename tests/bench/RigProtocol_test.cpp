@@ -1,0 +1,71 @@
+#include "bench/RigProtocol.h"
+
+#include <gtest/gtest.h>
+
+#include "bench/ReportDescriptor.h"
+
+namespace glidetrak::bench {
+namespace {
+
+ReportBytes SetOutput(int iByte) {
+  ReportBytes data(19);
+  data[0] = 4;
+  data[1] = 1;
+  data[16] = static_cast<std::uint8_t>(iByte);
+  return data;
+}
+
+TEST(RigProtocol, SetOutputDrivesTheTrack) {
+  TrackModel model;
+  const ReportBytes answer = AnswerReport(model, SetOutput(0x1A), 64);
+  EXPECT_EQ(model.Power(), 10);
+  EXPECT_TRUE(model.Forward());
+  EXPECT_EQ(answer.size(), 64u);
+  EXPECT_EQ(answer[0], 4);
+}
+
+TEST(RigProtocol, ReadStateGivesSensorsWithoutBit7) {
+  TrackModel model;
+  model.Place(fGateA);
+  const ReportBytes answer = AnswerReport(model, {3, 0, 0}, 64);
+  EXPECT_EQ(answer.size(), 64u);
+  EXPECT_EQ(answer[2], 0x18);
+  EXPECT_EQ(answer[3], 0);
+}
+
+TEST(RigProtocol, ReadStateGivesTheImpactInTheHighNibble) {
+  TrackModel model;
+  model.SetOutput(0x1F);
+  while (model.Analog() == 0) model.Advance(1);
+  EXPECT_EQ(AnswerReport(model, {3}, 64)[3], 0xF0);
+}
+
+TEST(RigProtocol, AnswerHasTheDeclaredLengthButAtLeastFourBytes) {
+  TrackModel model;
+  EXPECT_EQ(AnswerReport(model, {3}, 20).size(), 20u);
+  EXPECT_EQ(AnswerReport(model, {3}, 0).size(), 4u);
+}
+
+TEST(RigProtocol, RefusesWhatIsNoCommand) {
+  TrackModel model;
+  EXPECT_TRUE(AnswerReport(model, {}, 64).empty());
+  EXPECT_TRUE(AnswerReport(model, {5, 0, 0}, 64).empty());
+  EXPECT_TRUE(AnswerReport(model, ReportBytes(16, 4), 64).empty());
+  EXPECT_EQ(model.Power(), 0);
+}
+
+TEST(ReportDescriptor, DeclaresTwoReportsOfBytes) {
+  const ReportBytes expected{0x06, 0x00, 0xFF, 0x09, 0x01, 0xA1, 0x01, 0x15, 0x00, 0x26,
+                             0xFF, 0x00, 0x75, 0x08, 0x96, 0x40, 0x00, 0x09, 0x01, 0x81,
+                             0x02, 0x96, 0x2C, 0x01, 0x09, 0x01, 0x91, 0x02, 0xC0};
+  EXPECT_EQ(ReportDescriptor(64, 300), expected);
+}
+
+TEST(ReportDescriptor, LengthZeroLeavesTheReportOut) {
+  const ReportBytes expected{0x06, 0x00, 0xFF, 0x09, 0x01, 0xA1, 0x01, 0x15, 0x00, 0x26, 0xFF,
+                             0x00, 0x75, 0x08, 0x96, 0x08, 0x00, 0x09, 0x01, 0x81, 0x02, 0xC0};
+  EXPECT_EQ(ReportDescriptor(8, 0), expected);
+}
+
+}  // namespace
+}  // namespace glidetrak::bench
