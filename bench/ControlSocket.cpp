@@ -19,7 +19,7 @@ namespace glidetrak::bench {
 namespace {
 
 constexpr size_t iLongestLine = 256;   ///< bytes, the line feed counted
-constexpr int iPatience = 2;           ///< s for the other side to speak, before it is given up
+constexpr int iMostSilence = 2;        ///< s for the other side to speak, before it is given up
 constexpr int iWaiting = 8;            ///< connections that may queue
 const std::string sAccepted = "ok\n";  ///< the first line of a good answer
 const std::string sRefused = "error: ";
@@ -58,7 +58,7 @@ FileDescriptor NewSocket() {
 }
 
 void LimitWaits(const FileDescriptor& file) {
-  const timeval limit{iPatience, 0};
+  const timeval limit{iMostSilence, 0};
   setsockopt(file.Number(), SOL_SOCKET, SO_RCVTIMEO, &limit, sizeof limit);
   setsockopt(file.Number(), SOL_SOCKET, SO_SNDTIMEO, &limit, sizeof limit);
 }

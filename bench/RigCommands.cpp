@@ -14,7 +14,7 @@ namespace {
 
 using Words = std::vector<std::string>;
 
-constexpr int iLongestPress = 60000;  ///< ms; a minute, so that no slip of the hand holds for hours
+constexpr int iLongestTime = 60000;  ///< ms; a minute, so that no slip of the hand lasts for hours
 
 /// By bit of the input byte.
 constexpr std::array<std::string_view, 7> SensorNames{"START_BUTTON", "CITY_CALL",   "AIRPORT_CALL",
@@ -85,7 +85,7 @@ RigCommand ParseState(const Words&) {
 
 RigCommand ParsePress(const Words& arguments) {
   const auto button = ParseButton(arguments[0]);
-  const auto time = ParseNumber(arguments[1], 1, iLongestPress);
+  const auto time = ParseNumber(arguments[1], 1, iLongestTime);
   if (!button || !time) return {};
   return Silent([=](TrackModel& model) { model.Press(*button, *time); });
 }
@@ -100,7 +100,7 @@ RigCommand ParseSound(const Words& arguments) {
   if (const auto on = ParseOnOff(arguments[0])) {
     return Silent([=](TrackModel& model) { model.SetSound(*on); });
   }
-  const auto time = ParseNumber(arguments[0], 1, iLongestPress);
+  const auto time = ParseNumber(arguments[0], 1, iLongestTime);
   if (!time) return {};
   return Silent([=](TrackModel& model) { model.SoundFor(*time); });
 }

@@ -11,13 +11,13 @@ constexpr std::uint8_t iSetOutput = 4;
 constexpr size_t iOutputIndex = 16;
 constexpr size_t iInputIndex = 2;
 constexpr size_t iAnalogIndex = 3;
-constexpr int iAnswerBytes = 4;
+constexpr int iUsedBytes = 4;
 
 }  // namespace
 
 ReportBytes AnswerReport(TrackModel& model, const ReportBytes& data, int iLength) {
   const std::uint8_t iCommand = data.empty() ? 0 : data[0];
-  ReportBytes answer(static_cast<size_t>(std::max(iLength, iAnswerBytes)));
+  ReportBytes answer(static_cast<size_t>(std::max(iLength, iUsedBytes)));
   answer[0] = iCommand;
   if (iCommand == iReadState) {
     answer[iInputIndex] = static_cast<std::uint8_t>(model.Sensors());

@@ -7,7 +7,7 @@ namespace glidetrak::bench {
 
 namespace {
 
-constexpr double fStepSeconds = 0.001;
+constexpr double fSecondsPerStep = 0.001;
 constexpr int iPowerMask = 15;
 constexpr int iForwardMask = 16;
 
@@ -95,10 +95,10 @@ double TrackModel::Acceleration() const {
 
 void TrackModel::Move() {
   const double fBefore = m_fSpeed;
-  m_fSpeed += Acceleration() * fStepSeconds;
+  m_fSpeed += Acceleration() * fSecondsPerStep;
   // Friction ends a movement and never turns it round: a reversal passes through a step at rest.
   if (fBefore * m_fSpeed < 0) m_fSpeed = 0;
-  m_fPosition += m_fSpeed * fStepSeconds;
+  m_fPosition += m_fSpeed * fSecondsPerStep;
   if (m_fPosition < fCityBuffer) MeetBuffer(fCityBuffer);
   if (m_fPosition > fAirportBuffer) MeetBuffer(fAirportBuffer);
 }

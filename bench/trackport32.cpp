@@ -16,9 +16,9 @@ namespace glidetrak {
 namespace {
 
 constexpr std::int32_t lOnlyPort = 1;
-constexpr std::int32_t lPortMask = 1;      ///< bit 0: port 1
-constexpr std::int32_t lAddress1 = 0x378;  ///< where the first parallel port has always been
-constexpr std::int32_t lHandle1 = 1;
+constexpr std::int32_t lPortMask = 1;         ///< bit 0: port 1
+constexpr std::int32_t lOnlyAddress = 0x378;  ///< where the first parallel port has always been
+constexpr std::int32_t lOnlyHandle = 1;
 
 class ServedRig {
  public:
@@ -50,16 +50,16 @@ std::int32_t TRACKPORT_CALL LPTAvailable() {
 }
 
 std::int32_t TRACKPORT_CALL LPTAddress(std::int32_t lPort) {
-  return lPort == lOnlyPort ? lAddress1 : 0;
+  return lPort == lOnlyPort ? lOnlyAddress : 0;
 }
 
 std::int32_t TRACKPORT_CALL IsAdapterConnected(std::int32_t lAddress) {
-  if (lAddress != lAddress1) return 0;
+  if (lAddress != lOnlyAddress) return 0;
   return Rig().With([](bench::TrackModel& model) { return model.Plugged() ? 1 : 0; });
 }
 
 std::int32_t TRACKPORT_CALL OpenLPT(std::int32_t lPort) {
-  return lPort == lOnlyPort ? lHandle1 : 0;
+  return lPort == lOnlyPort ? lOnlyHandle : 0;
 }
 
 std::int32_t TRACKPORT_CALL CloseLPT(std::int32_t) {
@@ -67,12 +67,12 @@ std::int32_t TRACKPORT_CALL CloseLPT(std::int32_t) {
 }
 
 std::int32_t TRACKPORT_CALL ReadAdapter(std::int32_t lAddress) {
-  if (lAddress != lAddress1) return 0;
+  if (lAddress != lOnlyAddress) return 0;
   return Rig().With([](bench::TrackModel& model) { return model.Inputs(); });
 }
 
 std::int32_t TRACKPORT_CALL WriteAdapter(std::int32_t lAddress, std::int32_t lByte) {
-  if (lAddress != lAddress1) return 0;
+  if (lAddress != lOnlyAddress) return 0;
   return Rig().With([=](bench::TrackModel& model) {
     model.SetOutput(lByte);
     return 0;
@@ -86,7 +86,7 @@ std::int32_t TRACKPORT_CALL SetStrobe(std::int32_t) {
 
 // The model's accelerometer converts at once, so no time needs to be allowed for it.
 std::int32_t TRACKPORT_CALL ReadAtoD(std::int32_t lAddress, std::int32_t) {
-  if (lAddress != lAddress1) return 0;
+  if (lAddress != lOnlyAddress) return 0;
   return Rig().With([](bench::TrackModel& model) { return model.Plugged() ? model.Analog() : 0; });
 }
 

@@ -9,7 +9,7 @@
 # Exit code 0 when all tests passed, 77 with the reason when the machine cannot run a guest.
 set -eu
 
-TIME_LIMIT=120 # seconds for the whole guest; a good run takes a small part of it
+TIME_LIMIT=240 # seconds for the whole guest; a good run takes a small part of it
 MEMORY=512     # MiB; a program of a sanitizer build has room in it too
 MODULES='hid hid-generic uhid' # in the order of their needs
 KERNEL=linux-image-cloud-amd64 # boots in half the time of the general kernel and has the modules
@@ -25,7 +25,7 @@ skip() {
 }
 
 check_machine() {
-  [ "$(dpkg --print-architecture 2>/dev/null)" = amd64 ] || skip 'needs a Debian machine of kind amd64'
+  [ "$(dpkg --print-architecture 2>/dev/null)" = amd64 ] || skip 'needs Debian on amd64'
   for tool in qemu-system-x86_64 busybox cpio flock timeout apt-get; do
     command -v $tool >/dev/null || skip "needs $tool"
   done
@@ -36,11 +36,13 @@ fetch_kernel() {
   [ ! -e "$kernel/complete" ] || return 0
   rm -rf "$kernel"
   mkdir -p "$kernel"
-  package=$(apt-cache depends $KERNEL 2>/dev/null | sed -n 's/^ *Depends: \(linux-image-[0-9].*\)/\1/p')
+  package=$(apt-cache depends $KERNEL 2>/dev/null |
+    sed -n 's/^ *Depends: \(linux-image-[0-9].*\)/\1/p')
   [ -n "$package" ] || skip "apt does not know $KERNEL; apt-get update may help"
   (cd "$kernel" && apt-get -qq -o APT::Sandbox::User=root download "$package") ||
     skip "$package could not be downloaded; apt-get update may help"
-  dpkg-deb --fsys-tarfile "$kernel"/*.deb | tar -x -C "$kernel" --wildcards './boot/vmlinuz-*' '*/drivers/hid/*.ko'
+  dpkg-deb --fsys-tarfile "$kernel"/*.deb |
+    tar -x -C "$kernel" --wildcards './boot/vmlinuz-*' '*/drivers/hid/*.ko'
   rm "$kernel"/*.deb
   touch "$kernel/complete"
 }
@@ -53,7 +55,8 @@ copy() {
 
 copy_program() {
   cp -L "$1" "$root/"
-  for library in $(ldd "$1" | grep -o '/[^ ]*'); do copy "$library"; done
+  # A static program has no libraries, which ldd takes for an error.
+  for library in $(ldd "$1" 2>/dev/null | grep -o '/[^ ]*'); do copy "$library"; done
 }
 
 build_root() {
