@@ -2,8 +2,8 @@
 
 #include <QCloseEvent>
 #include <QEventLoop>
-#include <QLayout>
 #include <QScopedValueRollback>
+#include <algorithm>
 #include <utility>
 
 #include "view/EventRelay.h"
@@ -16,6 +16,8 @@
 namespace glidetrak {
 
 namespace {
+
+constexpr int iMostAnswers = 4;  ///< a size that the system refuses is not asked for without end
 
 /// Writes a length only if the pixels differ: what the station wrote between two pixels stands.
 void TellLength(QProperty<float>& length, int iPixels) {
@@ -76,31 +78,31 @@ void FormWindow::ComeForward() {
   activateWindow();
 }
 
-/// Brings the client area in line with the window. A hidden window does not do it by itself.
-void FormWindow::LayOut() {
-  layout()->invalidate();
-  layout()->activate();
+/// What the menu bar leaves. Computed rather than asked of the client's widget, which a hidden
+/// window does not lay out.
+QSize FormWindow::ClientSize() const {
+  const int iBar = menuWidget() != nullptr ? menuWidget()->minimumHeight() : 0;
+  return {width(), std::max(0, height() - iBar)};
 }
 
 void FormWindow::FitClient() {
-  const QSize client(Pixels(m_form.ScaleWidth), Pixels(m_form.ScaleHeight));
   const QScopedValueRollback telling(m_bTelling, true);
-  resize(client);
-  LayOut();
-  resize(client + (size() - Client()->size()));
-  LayOut();
-  m_toldClient = Client()->size();
+  resize(Pixels(m_form.ScaleWidth), Pixels(m_form.ScaleHeight));
+  resize(size() + (size() - ClientSize()));
+  m_toldClient = ClientSize();
   TellLength(m_form.Width, width());
   TellLength(m_form.Height, height());
 }
 
-/// A window that is minimised or maximised has no size or place of its own to set.
+/// A window that is minimised or maximised has no size or place of its own to set. The station may
+/// answer the resize with another size, and a write from inside an observer of the same property is
+/// not observed; hence the second look.
 void FormWindow::ObeySize() {
   if (m_bTelling || StateOf(windowState()) != stateNormal) return;
-  resize(SizeOf(m_form));
-  if (isVisible()) return;
-  LayOut();
-  TellSize();
+  for (int i = 0; i < iMostAnswers && size() != SizeOf(m_form); ++i) {
+    resize(SizeOf(m_form));
+    if (!isVisible()) TellSize();
+  }
 }
 
 void FormWindow::ObeyPlace() {
@@ -136,14 +138,15 @@ void FormWindow::ShowModal() {
 }
 
 void FormWindow::TellSize() {
+  const QSize client = ClientSize();
   {
     const QScopedValueRollback telling(m_bTelling, true);
     TellLength(m_form.Width, width());
     TellLength(m_form.Height, height());
-    TellLength(m_form.ScaleWidth, Client()->width());
-    TellLength(m_form.ScaleHeight, Client()->height());
+    TellLength(m_form.ScaleWidth, client.width());
+    TellLength(m_form.ScaleHeight, client.height());
   }
-  if (std::exchange(m_toldClient, Client()->size()) != Client()->size()) Fire(m_form.Resize);
+  if (std::exchange(m_toldClient, client) != client) Fire(m_form.Resize);
 }
 
 void FormWindow::TellPlace() {

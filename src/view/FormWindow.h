@@ -39,7 +39,7 @@ class FormWindow : public QMainWindow {
   void ShowModal();
   void TellSize();
   void TellPlace();
-  void LayOut();
+  QSize ClientSize() const;
   void ComeForward();
 
   Form& m_form;

@@ -17,10 +17,25 @@ namespace {
 constexpr qsizetype iLargeText = 1'000'000;  ///< from here on the widget is filled in pieces
 constexpr qsizetype iSlice = 300'000;        ///< a piece that a user does not feel
 
+/// The widget lays a line out as a whole, in a time that grows with the square of its length. A
+/// text that compiles is shorter than this in all.
+constexpr int iLongestLine = 50'000;
+
+/// How much of the text the widget can show: all of it, or up to where a line grows too long.
+qsizetype ShowableEnd(const TextBox& box) {
+  const std::vector<int>& aStarts = box.LineStarts();
+  const auto iEnd = static_cast<int>(box.Text().size());
+  for (size_t i = 0; i < aStarts.size(); ++i) {
+    const int iNext = i + 1 < aStarts.size() ? aStarts[i + 1] : iEnd;
+    if (iNext - aStarts[i] > iLongestLine) return aStarts[i] + iLongestLine;
+  }
+  return iEnd;
+}
+
 /// The end of the piece that begins at iStart; never between CR and LF.
-qsizetype SliceEnd(const QString& sText, qsizetype iStart) {
+qsizetype SliceEnd(const QString& sText, qsizetype iStart, qsizetype iEnd) {
   const qsizetype iWanted = iStart + iSlice;
-  if (sText.size() <= iLargeText || iWanted >= sText.size()) return sText.size();
+  if (iEnd <= iLargeText || iWanted >= iEnd) return iEnd;
   return sText[iWanted - 1] == u'\r' ? iWanted + 1 : iWanted;
 }
 
@@ -54,6 +69,7 @@ void ProgramEditor::Fill() {
   const QScopedValueRollback applying(m_bApplying, true);
   m_bStale = false;
   m_iFilled = 0;
+  m_iShowable = ShowableEnd(m_box);
   setUndoRedoEnabled(false);
   document()->clear();
   FillSlice();
@@ -63,7 +79,7 @@ void ProgramEditor::Fill() {
 void ProgramEditor::FillSlice() {
   const QScopedValueRollback applying(m_bApplying, true);
   const QString& sText = m_box.Text();
-  const qsizetype iEnd = SliceEnd(sText, m_iFilled);
+  const qsizetype iEnd = SliceEnd(sText, m_iFilled, m_iShowable);
   QTextCursor cursor(document());
   cursor.movePosition(QTextCursor::End);
   cursor.beginEditBlock();
@@ -73,8 +89,11 @@ void ProgramEditor::FillSlice() {
   const bool bComplete = m_iFilled == sText.size();
   setReadOnly(!bComplete);
   setUndoRedoEnabled(bComplete);
-  if (!bComplete) QueueSlice();
-  if (bComplete && m_bSelectionCut) MarkSelection();
+  if (m_iFilled < m_iShowable) {
+    QueueSlice();
+  } else if (m_bSelectionCut) {
+    MarkSelection();
+  }
 }
 
 /// A piece that was queued for an earlier text goes on with the present one.
@@ -82,7 +101,7 @@ void ProgramEditor::QueueSlice() {
   if (std::exchange(m_bSliceQueued, true)) return;
   const auto slice = [this] {
     m_bSliceQueued = false;
-    if (m_iFilled < m_box.Text().size()) FillSlice();
+    if (m_iFilled < m_iShowable) FillSlice();
   };
   QMetaObject::invokeMethod(this, slice, Qt::QueuedConnection);
 }
@@ -146,15 +165,21 @@ void ProgramEditor::TellEdit(int iPosition, int iRemoved) {
   if (ShownLength() != DocumentLength()) MarkStale();
 }
 
+/// What the user does next is done to what the station shows by now.
+void ProgramEditor::CatchUp() {
+  MendStale();
+  ApplySelection();
+}
+
 bool ProgramEditor::event(QEvent* pEvent) {
-  if (pEvent->type() == QEvent::KeyPress || pEvent->type() == QEvent::InputMethod) MendStale();
+  if (pEvent->type() == QEvent::KeyPress || pEvent->type() == QEvent::InputMethod) CatchUp();
   return QPlainTextEdit::event(pEvent);
 }
 
 /// The mouse is told after the widget's own answer: a double click finds its word selected.
 bool ProgramEditor::viewportEvent(QEvent* pEvent) {
   const bool bMouse = IsMouseEvent(*pEvent);
-  if (bMouse || pEvent->type() == QEvent::Drop) MendStale();
+  if (bMouse || pEvent->type() == QEvent::Drop) CatchUp();
   const bool bAnswered = QPlainTextEdit::viewportEvent(pEvent);
   if (bMouse) RelayMouse(m_box, *this, static_cast<QMouseEvent&>(*pEvent));
   return bAnswered;

@@ -11,7 +11,8 @@ namespace glidetrak {
 /// character of it stays as it was, shown or not.
 ///
 /// A text above a million characters is put in piece by piece between the events; until it stands
-/// complete the user can read and scroll, but not edit.
+/// complete the user can read and scroll, but not edit. A text with a line of more than 50,000
+/// characters is shown up to there, for reading only.
 ///
 /// Where an edit makes a bare CR and a bare LF neighbours, the station has a line end more than the
 /// widget shows; the widget is then stale and filled anew before it takes another event.
@@ -37,6 +38,7 @@ class ProgramEditor : public QPlainTextEdit {
   void QueueSlice();
   void MarkStale();
   void MendStale();
+  void CatchUp();
 
   // The selection, either way.
   void MarkSelection();
@@ -51,6 +53,7 @@ class ProgramEditor : public QPlainTextEdit {
   int ShownLength() const { return static_cast<int>(m_box.Text().size()) - m_box.LineCount() + 1; }
 
   TextBox& m_box;
+  qsizetype m_iShowable = 0;        ///< so much of the station's text the widget can show
   qsizetype m_iFilled = 0;          ///< so much of the station's text is in the widget
   bool m_bSliceQueued = false;      ///< the next piece will come
   bool m_bStale = false;            ///< the widget no longer shows the station's text

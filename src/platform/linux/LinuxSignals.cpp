@@ -24,8 +24,8 @@ void WakeEventLoop(int /*iSignal*/) {
 
 void OnTermination(std::function<void()> terminate) {
   if (socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, aSockets) != 0) return;
-  auto* pNotifier = new QSocketNotifier(aSockets[1], QSocketNotifier::Read,
-                                        QCoreApplication::instance());
+  auto* pNotifier =
+      new QSocketNotifier(aSockets[1], QSocketNotifier::Read, QCoreApplication::instance());
   QObject::connect(pNotifier, &QSocketNotifier::activated, pNotifier,
                    [pNotifier, terminate = std::move(terminate)] {
                      pNotifier->setEnabled(false);

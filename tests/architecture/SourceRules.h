@@ -1,0 +1,37 @@
+#pragma once
+
+// The rules that the sources are held against, applied to the text of one file at a time, so that
+// they can be tried on a planted violation as well.
+
+#include <QString>
+#include <QStringList>
+#include <set>
+
+namespace glidetrak {
+
+/// One source file: its path below src/, with slashes, and its text.
+struct SourceFile {
+  QString sPath;
+  QString sText;
+};
+
+/// The header names that may be included by the view alone, e.g. QWidget or QtGui/QPainter.
+using WindowHeaders = std::set<QString>;
+
+// Each rule gives its violations as "path:line: what is wrong", none for a file that keeps it.
+
+/// A room includes rooms below it and itself, never one beside or above.
+QStringList RoomViolations(const SourceFile& file);
+
+/// Nobody but the view knows a window toolkit; main.cpp may start the application.
+QStringList WindowHeaderViolations(const SourceFile& file, const WindowHeaders& headers);
+
+/// Trimming goes through TrimBlanks, which takes blanks only.
+QStringList TrimmingViolations(const SourceFile& file);
+
+constexpr int iMostLines = 500;
+constexpr int iMostColumns = 100;
+
+QStringList LengthViolations(const SourceFile& file);
+
+}  // namespace glidetrak

@@ -1,0 +1,83 @@
+// Every source of the station keeps the rules. SOURCE_FOLDER and WINDOW_HEADER_FOLDERS come from
+// the build.
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QDirIterator>
+#include <QFile>
+#include <functional>
+#include <vector>
+
+#include "architecture/SourceRules.h"
+
+namespace glidetrak {
+namespace {
+
+std::vector<SourceFile> ReadSources() {
+  const QDir folder(SOURCE_FOLDER);
+  std::vector<SourceFile> aFiles;
+  QDirIterator walk(folder.path(), {"*.h", "*.cpp"}, QDir::Files, QDirIterator::Subdirectories);
+  while (walk.hasNext()) {
+    QFile file(walk.next());
+    if (!file.open(QIODevice::ReadOnly)) ADD_FAILURE() << file.fileName().toStdString();
+    aFiles.push_back({folder.relativeFilePath(file.fileName()), QString::fromUtf8(file.readAll())});
+  }
+  return aFiles;
+}
+
+/// Each header of a toolkit folder, with and without the folder's name.
+WindowHeaders ReadWindowHeaders() {
+  WindowHeaders headers;
+  for (const QString& sFolder : QString(WINDOW_HEADER_FOLDERS).split(u':')) {
+    const QDir folder(sFolder);
+    for (const QString& sHeader : folder.entryList(QDir::Files)) {
+      headers.insert(sHeader);
+      headers.insert(folder.dirName() + u'/' + sHeader);
+    }
+  }
+  return headers;
+}
+
+void ExpectEveryFileKeeps(const std::function<QStringList(const SourceFile&)>& rule) {
+  for (const SourceFile& file : ReadSources()) {
+    for (const QString& sFault : rule(file)) ADD_FAILURE() << "src/" << sFault.toStdString();
+  }
+}
+
+TEST(Sources, AreFoundInEveryRoom) {
+  std::set<QString> rooms;
+  for (const SourceFile& file : ReadSources()) rooms.insert(file.sPath.section(u'/', 0, 0));
+  for (const char* sRoom : {"platform", "form", "common", "strings", "hardware", "track",
+                            "language", "authoring", "programs", "shell", "main.cpp"}) {
+    EXPECT_TRUE(rooms.contains(sRoom)) << sRoom;
+  }
+}
+
+TEST(Sources, IncludeOnlyRoomsBelowThem) {
+  ExpectEveryFileKeeps(RoomViolations);
+}
+
+TEST(Sources, WindowHeadersAreKnown) {
+  const WindowHeaders headers = ReadWindowHeaders();
+  for (const char* sHeader : {"QWidget", "QtWidgets/QWidget", "qwidget.h", "QPainter",
+                              "QtGui/QPainter", "QSvgRenderer", "QtSvg/QSvgRenderer"}) {
+    EXPECT_TRUE(headers.contains(sHeader)) << sHeader;
+  }
+}
+
+TEST(Sources, LeaveTheWindowToolkitToTheView) {
+  const WindowHeaders headers = ReadWindowHeaders();
+  ExpectEveryFileKeeps([&](const auto& file) { return WindowHeaderViolations(file, headers); });
+}
+
+TEST(Sources, TrimBlanksOnly) {
+  ExpectEveryFileKeeps(TrimmingViolations);
+}
+
+TEST(Sources, KeepLinesAndFilesShort) {
+  ExpectEveryFileKeeps(LengthViolations);
+}
+
+}  // namespace
+}  // namespace glidetrak

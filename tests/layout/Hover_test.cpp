@@ -1,0 +1,100 @@
+// The hover pictures of the five program buttons, and who asks for them.
+
+#include "shell/Hover.h"
+
+#include <gtest/gtest.h>
+
+#include "common/SharedState.h"
+#include "form/frmGlidetrak.h"
+#include "shell/Events.h"
+#include "virtual/VirtualPlatform.h"
+
+namespace glidetrak {
+
+namespace {
+
+struct ButtonRow {
+  const char* sToken;
+  ImageButton* pButton;
+  PictureId rest, hot;
+};
+
+const ButtonRow aButtons[] = {
+    {"CMD", &cmdProgCommands, PictureId::DefBtn, PictureId::DiagBtnWF},
+    {"NEXT", &cmdSingleStep, PictureId::DefBtn, PictureId::DiagBtnWF},
+    {"RUN", &cmdRunProgram, PictureId::DefBtnGo, PictureId::DiagBtnWF},
+    {"STOP", &btnStopProg, PictureId::DefBtnStop, PictureId::DefBtnStopWF},
+    {"SHOWEX", &cmdShowExamples, PictureId::DefBtn, PictureId::DiagBtnWF},
+};
+
+class HoverTest : public ::testing::Test {
+ protected:
+  void SetUp() override { WireEvents(); }
+
+  void ExpectHot(const QString& sToken) {
+    for (const ButtonRow& row : aButtons) {
+      EXPECT_EQ(row.pButton->Picture.value(), sToken == row.sToken ? row.hot : row.rest)
+          << row.sToken;
+    }
+  }
+
+  VirtualPlatform platform;
+};
+
+TEST_F(HoverTest, TokenMakesItsOwnButtonHot) {
+  for (const ButtonRow& row : aButtons) {
+    SetHoverState(row.sToken);
+    ExpectHot(row.sToken);
+  }
+}
+
+TEST_F(HoverTest, CaseOfATokenDoesNotMatter) {
+  for (const ButtonRow& row : aButtons) {
+    SetHoverState(QString(row.sToken).toLower());
+    ExpectHot(row.sToken);
+  }
+}
+
+TEST_F(HoverTest, AnyOtherTokenPutsAllAtRest) {
+  for (const char* sToken : {"", "OTHER", "RUN ", "RU"}) {
+    SetHoverState("RUN");
+    SetHoverState(sToken);
+    ExpectHot("");
+  }
+}
+
+TEST_F(HoverTest, MoveOverAHotButtonRepaintsNothing) {
+  SetHoverState("RUN");
+  int iChanges = 0;
+  const auto notifier = cmdRunProgram.Picture.addNotifier([&] { ++iChanges; });
+  SetHoverState("RUN");
+  EXPECT_EQ(iChanges, 0);
+}
+
+struct CallerRow {
+  const Control* pControl;
+  const char* sIdle;     ///< the hot button after a move while no program runs
+  const char* sRunning;  ///< and while one runs; "RUN" is hot before
+};
+
+TEST_F(HoverTest, MouseMovesAskForTheirTokens) {
+  const CallerRow rows[] = {
+      {&btnStopProg, "STOP", "STOP"},      {&cmdProgCommands, "CMD", "RUN"},
+      {&cmdSingleStep, "NEXT", "RUN"},     {&cmdRunProgram, "RUN", "RUN"},
+      {&cmdShowExamples, "SHOWEX", "RUN"}, {&pnlProgramBox, "", ""},
+      {&imgProgBoxBack, "", "RUN"},        {&txtProgram, "", "RUN"},
+  };
+  for (const CallerRow& row : rows) {
+    for (const bool bRunning : {false, true}) {
+      SetHoverState("RUN");
+      bProgramRunning = bRunning;
+      row.pControl->MouseMove(0, 1, 1);
+      SCOPED_TRACE(&row - rows);
+      ExpectHot(bRunning ? row.sRunning : row.sIdle);
+    }
+  }
+}
+
+}  // namespace
+
+}  // namespace glidetrak

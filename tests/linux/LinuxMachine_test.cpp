@@ -1,0 +1,68 @@
+// The rest of what the machine answers without a window.
+
+#include "platform/linux/LinuxMachine.h"
+
+#include <QCoreApplication>
+#include <QRegularExpression>
+
+#include "linux/NativeFolder.h"
+
+namespace glidetrak {
+
+namespace {
+
+class LinuxMachineTest : public ::testing::Test {
+ protected:
+  void SetUp() override { qputenv("XDG_CONFIG_HOME", folder.Path().toUtf8()); }
+
+  void NameDocuments(const QString& sPath) {
+    folder.AddFile("user-dirs.dirs", "XDG_DOCUMENTS_DIR=\"" + sPath.toUtf8() + "\"\n");
+  }
+
+  NativeFolder folder;
+  LinuxMachine machine;
+};
+
+TEST_F(LinuxMachineTest, DocumentsFolderIsTheUsersOwn) {
+  QDir(folder.Path()).mkdir("Papers");
+  NameDocuments(folder.Path("Papers"));
+  EXPECT_EQ(machine.DocumentsFolder(), folder.StationPath("Papers"));
+}
+
+TEST_F(LinuxMachineTest, DocumentsFolderThatIsNotThereIsNotKnown) {
+  NameDocuments(folder.Path("Nothing"));
+  EXPECT_EQ(FaultOf([&] { machine.DocumentsFolder(); }), Fault::PlatformCall);
+}
+
+TEST_F(LinuxMachineTest, ConfigurationIsReadFromItsFile) {
+  folder.AddFile("Tv_Glidetrak.ini", "[S]\r\nK=v\r\n");
+  EXPECT_EQ(machine.ConfigurationValue("s", "k", folder.StationPath("TV_GLIDETRAK.INI")), "v");
+  EXPECT_EQ(FaultOf([&] { machine.ConfigurationValue("s", "k", folder.StationPath("X")); }),
+            Fault::FileNotFound);
+}
+
+TEST_F(LinuxMachineTest, EndOfProcessIsAtOnce) {
+  EXPECT_EXIT(machine.EndProcess(), ::testing::ExitedWithCode(0), "");
+}
+
+TEST_F(LinuxMachineTest, CounterNeverGoesBack) {
+  const qint32 lFirst = machine.GetTickCount();
+  EXPECT_GE(machine.GetTickCount() - lFirst, 0);
+}
+
+TEST_F(LinuxMachineTest, LongTimeHasHoursMinutesAndSecondsAndNoZone) {
+  QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
+  qputenv("LC_ALL", "C");
+  const QRegularExpression form("^\\d{1,2}:\\d\\d:\\d\\d\\W(AM|PM)$");
+  EXPECT_TRUE(form.match(machine.LongTime()).hasMatch()) << machine.LongTime().toStdString();
+}
+
+TEST_F(LinuxMachineTest, LibraryThatIsNotThereIsAFailedCall) {
+  int iCount = 0;
+  QCoreApplication application(iCount, nullptr);
+  EXPECT_EQ(FaultOf([&] { machine.CallTrackport("LPTAvailable", {}); }), Fault::PlatformCall);
+}
+
+}  // namespace
+
+}  // namespace glidetrak

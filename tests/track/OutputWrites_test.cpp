@@ -1,0 +1,283 @@
+// When the byte reaches the rig, and which byte.
+
+#include <gtest/gtest.h>
+
+#include <functional>
+
+#include "common/SharedState.h"
+#include "form/frmGlidetrak.h"
+#include "hardware/AdapterLayer.h"
+#include "language/RunControl.h"
+#include "station/Station.h"
+#include "track/AbortProgram.h"
+#include "track/OperatingPanel.h"
+#include "track/OutputImage.h"
+
+namespace glidetrak {
+namespace {
+
+using Bytes = std::vector<qint32>;
+
+/// What is done, from power 0 and forward on, and the bytes that the rig receives.
+struct WriteRow {
+  const char* sWhat;
+  std::function<void()> act;
+  Bytes aBytes;
+};
+
+class OutputWrites : public ::testing::Test {
+ protected:
+  void SetUp() override { station.Start(Link::Parallel); }
+
+  template <size_t N>
+  void ExpectWrites(const WriteRow (&aRows)[N]) {
+    for (const WriteRow& row : aRows) {
+      SCOPED_TRACE(row.sWhat);
+      SetDirection(1);
+      SetPower(0);
+      station.Forget();
+      row.act();
+      EXPECT_EQ(station.WrittenBytes(), row.aBytes);
+    }
+  }
+
+  Station station;
+};
+
+TEST_F(OutputWrites, ComeWithEachPowerAndSkipARepeatedOneWhenChecked) {
+  const WriteRow aRows[] = {
+      {"power", [] { SetPower(9); }, {25}},
+      {"the same power twice", [] { SetPower(9), SetPower(9); }, {25, 25}},
+      {"power 0 again", [] { SetPower(0); }, {16}},
+      {"checked power", [] { SetPowerChecked(9); }, {25}},
+      {"the same checked power twice", [] { SetPowerChecked(9), SetPowerChecked(9); }, {25}},
+      {"checked power 0 at 0", [] { SetPowerChecked(0); }, {}},
+      {"checked powers out of range", [] { SetPowerChecked(-1), SetPowerChecked(16); }, {}},
+      {"checked power behind a clamped one", [] { SetPower(20), SetPowerChecked(0); }, {16, 16}},
+  };
+  ExpectWrites(aRows);
+}
+
+TEST_F(OutputWrites, ComeWithAChangedDirectionOnly) {
+  const WriteRow aRows[] = {
+      {"forward while forward", [] { SetDirection(1); }, {}},
+      {"backward", [] { SetDirection(0); }, {0}},
+      {"backward twice", [] { SetDirection(0), SetDirection(0); }, {0}},
+      {"there and back", [] { SetDirection(0), SetDirection(1); }, {0, 16}},
+      {"backward under power", [] { SetPower(5), SetDirection(0); }, {21, 5}},
+      {"power when backward", [] { SetDirection(0), SetPower(5); }, {0, 5}},
+  };
+  ExpectWrites(aRows);
+}
+
+TEST_F(OutputWrites, ComeWithEachSingleBitChangedOrNot) {
+  const WriteRow aRows[] = {
+      {"set", [] { SetOutputBit(6, true), SetOutputBit(6, false); }, {80, 16}},
+      {"clear what is clear", [] { SetOutputBit(6, false); }, {16}},
+      {"set what is set", [] { SetOutputBit(4, true); }, {16}},
+  };
+  ExpectWrites(aRows);
+}
+
+TEST_F(OutputWrites, ComeWithTheLeverWhenItStandsOnAnotherLevel) {
+  const auto drag = [](qint16 iLevel) {
+    iLeverLevel = iLevel;
+    ApplyLeverPower();
+  };
+  const WriteRow aRows[] = {
+      {"a new level", [&] { drag(4); }, {20}},
+      {"the level that was last requested", [&] { SetPower(4), drag(4); }, {20}},
+      {"away and back between two ticks", [&] { iLeverLevel = 9, drag(0); }, {}},
+  };
+  ExpectWrites(aRows);
+}
+
+TEST_F(OutputWrites, ComeWithADirectionButton) {
+  const WriteRow aRows[] = {
+      {"backward", [&] { station.Click("cmdBackward"); }, {0}},
+      {"forward while forward", [&] { station.Click("cmdForward"); }, {}},
+      {"backward at full power", [&] { SetPower(15), station.Click("cmdBackward"); }, {31, 15}},
+  };
+  ExpectWrites(aRows);
+}
+
+TEST_F(OutputWrites, ComeWithEachChangeOfMode) {
+  SetPower(15);
+  station.Forget();
+  station.Click("cmdProgram");
+  EXPECT_EQ(station.WrittenBytes(), Bytes{16});
+  station.Click("cmdProgram");
+  EXPECT_EQ(station.WrittenBytes(), Bytes{16});
+  station.Click("cmdManual");
+  EXPECT_EQ(station.WrittenBytes(), (Bytes{16, 16}));
+}
+
+TEST_F(OutputWrites, ComeWithTheEndOfAProgram) {
+  station.EnterProgramMode();
+  SetPower(9);
+  station.Forget();
+  station.RunProgram("BREAK");
+  EXPECT_EQ(station.WrittenBytes(), Bytes{16});
+}
+
+TEST_F(OutputWrites, ComeAtOnceWithAStopAndAgainWithTheEndOfTheProgram) {
+  station.EnterProgramMode();
+  station.After(10, [&] { station.Click("btnStopProg"); });
+  const qint64 lStart = station.platform.lNow;
+  station.RunProgram("WAIT 1000");
+  ASSERT_EQ(station.WrittenBytes(), (Bytes{16, 16}));
+  EXPECT_EQ(station.platform.rig.aWritten[0].lTime, lStart + 10);
+  EXPECT_GT(station.platform.rig.aWritten[1].lTime, lStart + 1000);
+}
+
+struct StatementRow {
+  const char* sProgram;
+  Bytes aBytes;  ///< ahead of the power 0 with which a program ends
+};
+
+const StatementRow StatementRows[] = {
+    {"POWER 10", {26}},
+    {"POWER 10\r\nPOWER 10", {26}},
+    {"POWER 10\r\nPOWER 3", {26, 19}},
+    {"POWER 0", {}},
+    {"HALT", {}},
+    {"POWER 10\r\nHALT\r\nHALT", {26, 16}},
+    {"FORWARD", {}},
+    {"BACKWARD", {0}},
+    {"BACKWARD\r\nBACKWARD", {0}},
+    {"POWER 5\r\nBACKWARD\r\nFORWARD", {21, 5, 21}},
+    {"POWER 16", {}},
+};
+
+TEST_F(OutputWrites, ComeAtOnceWithAStatementThatChangesSomething) {
+  station.EnterProgramMode();
+  for (const StatementRow& row : StatementRows) {
+    SetDirection(1);
+    SetPower(0);
+    station.Forget();
+    station.RunProgram(row.sProgram);
+    Bytes aExpected = row.aBytes;
+    aExpected.push_back(iDirection == 1 ? 16 : 0);
+    EXPECT_EQ(station.WrittenBytes(), aExpected) << row.sProgram;
+  }
+}
+
+TEST_F(OutputWrites, DoNotComeFromTheTickBehindAPowerStatement) {
+  station.EnterProgramMode();
+  station.RunProgram("POWER 10\r\nWAIT 500");
+  EXPECT_EQ(station.WrittenBytes(), (Bytes{26, 16}));
+}
+
+/// Drags the lever to that top, which stands 360 twips above the mouse.
+void DragLeverTo(float fTop) {
+  imgLever.MouseDown(mouseLeft, 0, 360);
+  imgLever.MouseMove(mouseLeft, 0, fTop - imgLever.Top + 360);
+  imgLever.MouseUp(mouseLeft, 0, 360);
+}
+
+TEST_F(OutputWrites, ComeWithTheTickBehindADraggedLever) {
+  DragLeverTo(2230);
+  EXPECT_EQ(station.WrittenBytes(), Bytes{});
+  station.platform.RunFor(100);
+  EXPECT_EQ(station.WrittenBytes(), Bytes{31});
+}
+
+TEST_F(OutputWrites, DoNotComeForALeverThatIsBackAheadOfTheTick) {
+  DragLeverTo(2230);
+  DragLeverTo(4760);
+  station.platform.RunFor(100);
+  EXPECT_EQ(station.WrittenBytes(), Bytes{});
+}
+
+TEST_F(OutputWrites, ComeAtOnceWithTheEmergencyStopWhateverThePower) {
+  for (const quint16 iLevel : {quint16{15}, quint16{0}}) {
+    SetPower(iLevel);
+    station.Forget();
+    btnEmergency.MouseDown(mouseRight, 0, 0);
+    EXPECT_EQ(station.WrittenBytes(), Bytes{16});
+  }
+}
+
+TEST_F(OutputWrites, AreAPlainZeroAtALinkCheckAndLeaveTheImageAlone) {
+  SetPower(9);
+  station.Forget();
+  CheckHardware();
+  EXPECT_EQ(station.WrittenBytes(), Bytes{0});
+  EXPECT_EQ(lOutputImage, 25);
+}
+
+TEST_F(OutputWrites, AreAPlainZeroAtTheShutDown) {
+  SetPower(9);
+  station.Forget();
+  EXPECT_THROW(frmGlidetrak.FormUnload(), ProcessEnded);
+  EXPECT_EQ(station.WrittenBytes(), Bytes{0});
+}
+
+TEST_F(OutputWrites, ComeWithAnAbort) {
+  SetPower(9);
+  station.Forget();
+  AbortProgram();
+  EXPECT_EQ(station.WrittenBytes(), Bytes{16});
+}
+
+TEST_F(OutputWrites, AreSkippedWhileTheLinkIsDown) {
+  bLinkUp = false;
+  SetPower(9);
+  SetDirection(0);
+  SetOutputBit(6, true);
+  EXPECT_EQ(station.WrittenBytes(), Bytes{});
+  EXPECT_EQ(lOutputImage, 0x49);
+  EXPECT_EQ(iPower, 9);
+  EXPECT_TRUE(bMotorOn);
+  EXPECT_NEAR(imgLever.Top, 3242, 0.001F);
+}
+
+TEST_F(OutputWrites, DoNotComeByThemselvesWhenTheLinkIsBack) {
+  bLinkUp = false;
+  SetPower(9);
+  bLinkUp = true;
+  SetPowerChecked(9);
+  EXPECT_EQ(station.WrittenBytes(), Bytes{});
+}
+
+TEST_F(OutputWrites, ThatFailAreToldToNobody) {
+  station.platform.rig.bLibraryThere = false;
+  bDebugMode = true;
+  EXPECT_NO_THROW(SetPower(9));
+  EXPECT_EQ(lOutputImage, 25);
+  EXPECT_TRUE(bMotorOn);
+  EXPECT_EQ(lblPowerLevel.Caption, "9");
+  EXPECT_NEAR(imgLever.Top, 3242, 0.001F);
+  EXPECT_NO_THROW(SetDirection(0));
+  EXPECT_EQ(lOutputImage, 9);
+  EXPECT_EQ(iDirection, 0);
+  EXPECT_TRUE(station.platform.aBoxes.empty());
+}
+
+TEST_F(OutputWrites, SendTheByteThatStandsInTheImage) {
+  lOutputImage = 0xF0;
+  SetPower(15);
+  EXPECT_EQ(station.WrittenBytes(), Bytes{255});
+}
+
+struct StartRow {
+  Link link;
+  Bytes aBytes;
+};
+
+/// The link check writes its 0 on the parallel link alone.
+const StartRow StartRows[] = {
+    {Link::Down, {}}, {Link::Parallel, {0, 16, 16}}, {Link::Usb, {16, 16}}};
+
+TEST(StartWrites, AreForwardAndThenPowerZeroIfTheLinkIsUp) {
+  for (const StartRow& row : StartRows) {
+    Station station;
+    Bytes aBytes;
+    station.platform.rig.OnWrite = [&](qint32 lByte) { aBytes.push_back(lByte); };
+    station.Start(row.link);
+    EXPECT_EQ(aBytes, row.aBytes) << static_cast<int>(row.link);
+  }
+}
+
+}  // namespace
+}  // namespace glidetrak
