@@ -1,85 +1,107 @@
-// Values of an INI file.
+// INI files as text, however they are built.
 
 #include "platform/ConfigurationText.h"
 
 #include <gtest/gtest.h>
 
+#include <optional>
+
 #include "station/Print.h"
 
 namespace glidetrak {
+
 namespace {
 
-const QByteArray Text =
-    "Outside=0\r\n"
-    "[MiscSettings]\r\n"
-    "HW_EXAMPLES=12\r\n"
-    "  SWFILE  =  glidetrak.swf  \r\n"
-    "Quoted=\"a b \"\r\n"
-    "Single='x'\r\n"
-    "HalfQuoted=\"a b\r\n"
-    "Equals=a=b\r\n"
-    "Empty=\r\n"
-    "Twice=first\r\n"
-    "Twice=second\r\n"
-    "NoValue\r\n"
-    "[ Other ]\r\n"
-    "HW_EXAMPLES=1\r\n"
-    "Only=2\r\n"
-    "[MiscSettings]\r\n"
-    "Late=3";
-
-struct ValueRow {
-  const char* sSection;
-  const char* sKey;
-  const char* sValue;
+struct TextRow {
+  const char* sText;
+  const char* sValue;  ///< of key K in section S; null for none
 };
 
-const ValueRow ValueRows[] = {
-    {"MiscSettings", "HW_EXAMPLES", "12"},
-    {"MISCSETTINGS", "hw_examples", "12"},
-    {"MiscSettings", "SWFILE", "glidetrak.swf"},
-    {"MiscSettings", "Quoted", "a b "},
-    {"MiscSettings", "Single", "x"},
-    {"MiscSettings", "HalfQuoted", "\"a b"},
-    {"MiscSettings", "Equals", "a=b"},
-    {"MiscSettings", "Empty", ""},
-    {"MiscSettings", "Twice", "first"},
-    {"Other", "Only", "2"},
-    {"Other", "HW_EXAMPLES", "1"},
-};
-
-TEST(ConfigurationText, GivesTheFirstValueOfItsKeyInItsSection) {
-  for (const ValueRow& row : ValueRows) {
-    const auto value = FindConfigurationString(Text, row.sSection, row.sKey);
-    ASSERT_TRUE(value.has_value()) << row.sKey;
-    EXPECT_EQ(*value, row.sValue) << row.sKey;
-  }
+void Expect(const TextRow& row) {
+  std::optional<QByteArray> wanted;
+  if (row.sValue != nullptr) wanted = row.sValue;
+  EXPECT_EQ(FindConfigurationString(row.sText, "S", "K"), wanted) << row.sText;
 }
 
-const ValueRow MissingRows[] = {
-    {"MiscSettings", "Outside", ""}, {"", "Outside", ""},          {"MiscSettings", "NoValue", ""},
-    {"MiscSettings", "Only", ""},    {"MiscSettings", "Late", ""}, {"Nowhere", "HW_EXAMPLES", ""},
-    {"MiscSettings", "HW", ""},
-};
-
-TEST(ConfigurationText, GivesNothingForAKeyThatIsNotThere) {
-  for (const ValueRow& row : MissingRows) {
-    EXPECT_FALSE(FindConfigurationString(Text, row.sSection, row.sKey).has_value()) << row.sKey;
-  }
-  EXPECT_FALSE(FindConfigurationString("", "A", "B").has_value());
+TEST(ConfigurationText, KeyIsFoundInItsSection) {
+  const TextRow rows[] = {
+      {"[S]\r\nK=v\r\n", "v"},
+      {"[S]\nK=v\n", "v"},
+      {"[S]\rK=v\r", "v"},
+      {"[S]\r\nK=v", "v"},
+      {"[T]\r\nK=w\r\n[S]\r\nK=v", "v"},
+      {"[s]\r\nk=v\r\n", "v"},
+      {"[S]\r\nK=v\r\nK=w\r\n", "v"},
+      {"\r\n\r\n[S]\r\n\r\nK=v", "v"},
+      {"[S]\r\nkk=w\r\nK=v", "v"},
+      {"[S]\r\nK=a=b", "a=b"},
+      {"[S]\r\n;K=w\r\nK=v", "v"},
+      {"[S]\r\nK\r\nK=v", "v"},
+      {"  [S]\r\nK=v", "v"},
+      {"[ S ]\r\nK=v", "v"},
+      {"[S] rest\r\nK=v", "v"},
+  };
+  for (const TextRow& row : rows) Expect(row);
 }
 
-TEST(ConfigurationText, ReadsEveryKindOfLineEnd) {
-  for (const char* sLineEnd : {"\r\n", "\n", "\r"}) {
-    const QByteArray text = QByteArray("[A]") + sLineEnd + "B=1" + sLineEnd + "C=2";
-    EXPECT_EQ(FindConfigurationString(text, "A", "B"), QByteArray("1"));
-    EXPECT_EQ(FindConfigurationString(text, "A", "C"), QByteArray("2"));
-  }
+TEST(ConfigurationText, BlanksAndOnePairOfQuotesGo) {
+  const TextRow rows[] = {
+      {"[S]\r\n  K  =  v  \r\n", "v"},
+      {"[S]\r\n\tK\t=\tv\t\r\n", "v"},
+      {"[S]\r\nK=a b", "a b"},
+      {"[S]\r\nK=\"v\"", "v"},
+      {"[S]\r\nK='v'", "v"},
+      {"[S]\r\nK=\" v \"", " v "},
+      {"[S]\r\nK=\"\"v\"\"", "\"v\""},
+      {"[S]\r\nK=\"v", "\"v"},
+      {"[S]\r\nK='v\"", "'v\""},
+      {"[S]\r\nK=\"\"", ""},
+      {"[S]\r\nK=\"", "\""},
+      {"[S]\r\nK=", ""},
+      {"[S]\r\nK=   ", ""},
+  };
+  for (const TextRow& row : rows) Expect(row);
 }
 
-TEST(ConfigurationText, KeepsEachByteOfAValue) {
-  EXPECT_EQ(FindConfigurationString("[A]\nB=\xF1\x80\x81", "A", "B"), QByteArray("\xF1\x80\x81"));
+TEST(ConfigurationText, KeyElsewhereIsNone) {
+  const TextRow rows[] = {
+      {"", nullptr},
+      {"K=v\r\n", nullptr},
+      {"[T]\r\nK=v\r\n", nullptr},
+      {"K=v\r\n[S]\r\n", nullptr},
+      {"[S]\r\n[T]\r\nK=v\r\n", nullptr},
+      {"[S]\r\nL=v\r\n", nullptr},
+      {"[S]\r\nK\r\n", nullptr},
+      {"[S]\r\n=v\r\n", nullptr},
+      {"[S2]\r\nK=v\r\n", nullptr},
+      {"S\r\nK=v\r\n", nullptr},
+  };
+  for (const TextRow& row : rows) Expect(row);
+}
+
+TEST(ConfigurationText, ZeroBytesAreBytesLikeOthers) {
+  QByteArray text = "#junk#\r\n[S]\r\n###\r\nK=v#w\r\n";
+  text.replace('#', '\0');
+  EXPECT_EQ(FindConfigurationString(text, "S", "K"), QByteArray("v\0w", 3));
+}
+
+TEST(ConfigurationText, LongLinesAreTakenWhole) {
+  const QByteArray value(60000, 'x');
+  EXPECT_EQ(FindConfigurationString("[S]\r\nK=" + value + "\r\n", "S", "K"), value);
+  EXPECT_EQ(FindConfigurationString(value + "\r\n[S]\r\nK=v\r\n", "S", "K"), "v");
+}
+
+TEST(ConfigurationText, TenMegabytesAreReadToTheirEnd) {
+  QByteArray text;
+  while (text.size() < 10'000'000) text += "[Other section]\r\nK=not this one\r\n; a comment\r\n";
+  EXPECT_EQ(FindConfigurationString(text, "S", "K"), std::nullopt);
+  EXPECT_EQ(FindConfigurationString(text + "[S]\r\nK=v", "S", "K"), "v");
+}
+
+TEST(ConfigurationText, ValueKeepsTheBytesOfTheCodePage) {
+  EXPECT_EQ(FindConfigurationString("[S]\r\nK=\xA1HOLA\x80!\r\n", "S", "K"), "\xA1HOLA\x80!");
 }
 
 }  // namespace
+
 }  // namespace glidetrak

@@ -1,123 +1,153 @@
-// Files as Linux answers for them, and the clock.
+// Files of the machine, and what goes wrong with them.
 
-#include <gtest/gtest.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
-#include <QThread>
-#include <functional>
-#include <optional>
+#include <csignal>
 
-#include "platform/TemporaryFolder.h"
+#include "platform/NativeFolder.h"
 #include "platform/linux/LinuxMachine.h"
-#include "station/Print.h"
 
 namespace glidetrak {
+
 namespace {
 
-class Files : public ::testing::Test {
+constexpr uid_t iNobody = 65534;
+
+class LinuxFiles : public ::testing::Test {
  protected:
-  /// The fault that the step raised, nothing if it raised none.
-  static std::optional<Fault> FaultOf(const std::function<void()>& step) {
-    try {
-      step();
-    } catch (const RuntimeError& error) {
-      return error.fault();
-    }
-    return {};
+  void SetUp() override { chmod(qPrintable(folder.Path()), 0755); }
+
+  QString At(const QString& sName) const { return folder.StationPath(sName); }
+
+  /// Runs a step as a user whom permissions bind, in a process of its own.
+  template <class Step>
+  void ExpectFaultAsPlainUser(Fault fault, Step step) {
+    EXPECT_EXIT(
+        {
+          if (geteuid() == 0 && setuid(iNobody) != 0) _exit(2);
+          _exit(FaultOf(step) == fault ? 0 : 1);
+        },
+        ::testing::ExitedWithCode(0), "");
   }
 
-  void MakePipe(const QString& sName) {
-    ASSERT_EQ(mkfifo(folder.Native(sName).toLocal8Bit().constData(), 0600), 0);
-  }
-
-  TemporaryFolder folder;
+  NativeFolder folder;
   LinuxMachine machine;
 };
 
-TEST_F(Files, AreReadWhole) {
-  QByteArray bytes;
-  for (int i = 0; i < 256; ++i) bytes.append(static_cast<char>(i));
-  folder.AddFile("Plan.gtp", bytes);
-  EXPECT_EQ(machine.ReadFile(folder.Station("PLAN.GTP")), bytes);
-  folder.AddFile("Empty.gtp");
-  EXPECT_EQ(machine.ReadFile(folder.Station("Empty.gtp")), "");
+TEST_F(LinuxFiles, EveryByteIsWrittenAndRead) {
+  QByteArray bytes(256, '\0');
+  for (int i = 0; i < 256; ++i) bytes[i] = static_cast<char>(i);
+  machine.WriteFile(At("A.GTP"), bytes);
+  EXPECT_EQ(folder.Bytes("A.GTP"), bytes);
+  EXPECT_EQ(machine.ReadFile(At("a.gtp")), bytes);
 }
 
-TEST_F(Files, ThatAreNotThereAreNotFound) {
-  const QString sPath = folder.Station("Nowhere.gtp");
-  EXPECT_EQ(FaultOf([&] { machine.ReadFile(sPath); }), Fault::FileNotFound);
-  EXPECT_EQ(FaultOf([&] { machine.FileAttributes(sPath); }), Fault::FileNotFound);
-  EXPECT_EQ(FaultOf([&] { machine.DeleteFile(sPath); }), Fault::FileNotFound);
-}
-
-TEST_F(Files, ThatAreFoldersOrPipesCannotBeRead) {
-  MakePipe("Pipe.gtp");
-  EXPECT_EQ(FaultOf([&] { machine.ReadFile(folder.Station("Pipe.gtp")); }), Fault::FileAccess);
-  EXPECT_EQ(FaultOf([&] { machine.ReadFile(folder.Station("")); }), Fault::FileAccess);
-}
-
-struct AttributeRow {
-  QFile::Permissions permissions;
-  int iAttributes;
-};
-
-const AttributeRow AttributeRows[] = {
-    {QFile::ReadOwner | QFile::WriteOwner, 0},
-    {QFile::ReadOwner, attrReadOnly},
-    {QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther, attrReadOnly},
-};
-
-TEST_F(Files, WithoutAnyWriteBitAreReadOnly) {
-  folder.AddFile("Plan.gtp");
-  for (const AttributeRow& row : AttributeRows) {
-    QFile::setPermissions(folder.Native("Plan.gtp"), row.permissions);
-    EXPECT_EQ(machine.FileAttributes(folder.Station("Plan.gtp")), row.iAttributes);
+TEST_F(LinuxFiles, ShorterTextLeavesNoTailAndAnEmptyOneNothing) {
+  for (const char* sText : {"LONG PROGRAM", "S", ""}) {
+    machine.WriteFile(At("A.GTP"), sText);
+    EXPECT_EQ(folder.Bytes("A.GTP"), sText);
   }
 }
 
-TEST_F(Files, TellAFolder) {
-  EXPECT_EQ(machine.FileAttributes(folder.Station("")), attrFolder);
+TEST_F(LinuxFiles, RewrittenFileKeepsItsNativeSpelling) {
+  folder.AddFile("Trip.gtp", "OLD");
+  machine.DeleteFile(At("TRIP.GTP"));
+  machine.WriteFile(At("TRIP.GTP"), "NEW");
+  EXPECT_EQ(QDir(folder.Path()).entryList(QDir::Files), QStringList("Trip.gtp"));
+  EXPECT_EQ(folder.Bytes("Trip.gtp"), "NEW");
 }
 
-TEST_F(Files, AreWrittenWholeAndReplaced) {
-  const QString sPath = folder.Station("New.gtp");
-  machine.WriteFile(sPath, "a longer text");
-  machine.WriteFile(sPath, "short");
-  EXPECT_EQ(machine.ReadFile(sPath), "short");
+TEST_F(LinuxFiles, MissingFileIsNotFound) {
+  EXPECT_EQ(FaultOf([&] { machine.ReadFile(At("A.GTP")); }), Fault::FileNotFound);
+  EXPECT_EQ(FaultOf([&] { machine.FileAttributes(At("A.GTP")); }), Fault::FileNotFound);
+  EXPECT_EQ(FaultOf([&] { machine.DeleteFile(At("A.GTP")); }), Fault::FileNotFound);
+  EXPECT_EQ(FaultOf([&] { machine.ReadFile(""); }), Fault::FileNotFound);
 }
 
-TEST_F(Files, KeepTheirSpellingWhenTheyAreDeletedAndWrittenAnew) {
-  folder.AddFile("Plan.gtp", "old");
-  const QString sPath = folder.Station("PLAN.GTP");
-  machine.FileAttributes(sPath);
-  machine.DeleteFile(sPath);
-  machine.WriteFile(sPath, "new");
-  EXPECT_EQ(QDir(folder.Native("")).entryList(QDir::Files), QStringList("Plan.gtp"));
+TEST_F(LinuxFiles, FolderIsNeitherReadNorWrittenNorDeleted) {
+  QDir(folder.Path()).mkdir("F.GTP");
+  EXPECT_EQ(machine.FileAttributes(At("F.GTP")), attrFolder);
+  EXPECT_EQ(FaultOf([&] { machine.ReadFile(At("F.GTP")); }), Fault::FileAccess);
+  EXPECT_EQ(FaultOf([&] { machine.WriteFile(At("F.GTP"), "X"); }), Fault::FileAccess);
+  EXPECT_EQ(FaultOf([&] { machine.DeleteFile(At("F.GTP")); }), Fault::FileAccess);
 }
 
-TEST_F(Files, AreNotWrittenIntoAFolderThatIsNotThere) {
-  EXPECT_EQ(FaultOf([&] { machine.WriteFile(folder.Station("Nowhere\\A.gtp"), "x"); }),
-            Fault::FileAccess);
+TEST_F(LinuxFiles, PipeIsNotReadAndBlocksNobody) {
+  ASSERT_EQ(mkfifo(qPrintable(folder.Path("P.GTP")), 0666), 0);
+  EXPECT_EQ(machine.FileAttributes(At("P.GTP")) & attrFolder, 0);
+  EXPECT_EQ(FaultOf([&] { machine.ReadFile(At("P.GTP")); }), Fault::FileAccess);
 }
 
-TEST_F(Files, GiveTheValuesOfAConfiguration) {
-  folder.AddFile("Tv_Glidetrak.ini", "[MiscSettings]\nHW_EXAMPLES=3\n");
-  const QString sPath = folder.Station("TV_GLIDETRAK.INI");
-  EXPECT_EQ(machine.ConfigurationValue("MiscSettings", "HW_EXAMPLES", sPath), QByteArray("3"));
-  EXPECT_EQ(machine.ConfigurationValue("MiscSettings", "SWFILE", sPath), std::nullopt);
+TEST_F(LinuxFiles, DeviceIsNotRead) {
+  EXPECT_EQ(FaultOf([&] { machine.ReadFile("\\dev\\zero"); }), Fault::FileAccess);
 }
 
-TEST_F(Files, OfALibraryThatIsNotThereFailTheCall) {
-  EXPECT_EQ(FaultOf([&] { machine.CallTrackport("LPTAvailable", {}); }), Fault::PlatformCall);
+TEST_F(LinuxFiles, LinkToNothingIsNotFound) {
+  ASSERT_EQ(symlink("/no/such/place", qPrintable(folder.Path("L.GTP"))), 0);
+  EXPECT_EQ(FaultOf([&] { machine.ReadFile(At("L.GTP")); }), Fault::FileNotFound);
 }
 
-TEST(Clock, CountsMillisecondsForward) {
-  LinuxMachine machine;
-  const qint32 lStart = machine.GetTickCount();
-  QThread::msleep(20);
-  const qint32 lElapsed = machine.GetTickCount() - lStart;
-  EXPECT_GE(lElapsed, 19);
+TEST_F(LinuxFiles, FileWithoutAnyWriteBitIsReadOnly) {
+  folder.AddFile("A.GTP");
+  const struct {
+    mode_t iMode;
+    int iAttributes;
+  } rows[] = {{0644, 0}, {0444, attrReadOnly}, {0555, attrReadOnly}, {0600, 0}};
+  for (const auto& row : rows) {
+    ASSERT_EQ(chmod(qPrintable(folder.Path("A.GTP")), row.iMode), 0);
+    EXPECT_EQ(machine.FileAttributes(At("A.GTP")), row.iAttributes) << row.iMode;
+  }
+}
+
+TEST_F(LinuxFiles, FileThatTheUserMayNotReadIsRefused) {
+  folder.AddFile("A.GTP", "HALT");
+  chmod(qPrintable(folder.Path("A.GTP")), 0000);
+  ExpectFaultAsPlainUser(Fault::FileAccess, [&] { machine.ReadFile(At("A.GTP")); });
+}
+
+TEST_F(LinuxFiles, FolderThatTheUserMayNotWriteIsRefused) {
+  chmod(qPrintable(folder.Path()), 0555);
+  ExpectFaultAsPlainUser(Fault::FileAccess, [&] { machine.WriteFile(At("A.GTP"), "HALT"); });
+  chmod(qPrintable(folder.Path()), 0755);
+}
+
+TEST_F(LinuxFiles, FileInAFolderThatTheUserMayNotWriteIsNotDeleted) {
+  folder.AddFile("A.GTP", "HALT");
+  chmod(qPrintable(folder.Path()), 0555);
+  ExpectFaultAsPlainUser(Fault::FileAccess, [&] { machine.DeleteFile(At("A.GTP")); });
+  chmod(qPrintable(folder.Path()), 0755);
+  EXPECT_EQ(folder.Bytes("A.GTP"), "HALT");
+}
+
+TEST_F(LinuxFiles, WriteIntoAFolderThatIsNotThereIsRefused) {
+  EXPECT_EQ(FaultOf([&] { machine.WriteFile(At("Nothing\\A.GTP"), "X"); }), Fault::FileAccess);
+}
+
+TEST_F(LinuxFiles, FullDiskIsToldOnWriting) {
+  EXPECT_EQ(FaultOf([&] { machine.WriteFile("\\dev\\full", "HALT"); }), Fault::FileAccess);
+}
+
+TEST_F(LinuxFiles, FileThatGrowsBeyondTheLimitIsToldOnWriting) {
+  std::signal(SIGXFSZ, SIG_IGN);
+  rlimit before{};
+  getrlimit(RLIMIT_FSIZE, &before);
+  rlimit limited = before;
+  limited.rlim_cur = 1000;
+  setrlimit(RLIMIT_FSIZE, &limited);
+  const Fault fault = FaultOf([&] { machine.WriteFile(At("A.GTP"), QByteArray(5000, 'x')); });
+  setrlimit(RLIMIT_FSIZE, &before);
+  EXPECT_EQ(fault, Fault::FileAccess);
+}
+
+TEST_F(LinuxFiles, CurrentFolderIsFoundWithoutRegardToCase) {
+  QDir(folder.Path()).mkdir("Place");
+  machine.SetCurrentFolder(At("PLACE") + '\\');
+  EXPECT_EQ(QDir::currentPath(), QFileInfo(folder.Path("Place")).canonicalFilePath());
+  EXPECT_EQ(FaultOf([&] { machine.SetCurrentFolder(At("Nothing")); }), Fault::FileAccess);
 }
 
 }  // namespace
+
 }  // namespace glidetrak

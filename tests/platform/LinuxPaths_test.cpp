@@ -2,77 +2,106 @@
 
 #include "platform/linux/LinuxPaths.h"
 
-#include <gtest/gtest.h>
-
-#include "platform/TemporaryFolder.h"
-#include "station/Print.h"
+#include "platform/NativeFolder.h"
+#include "platform/linux/LinuxMachine.h"
+#include "shell/CommandLine.h"
 
 namespace glidetrak {
+
 namespace {
 
-class Paths : public ::testing::Test {
+class LinuxPathsTest : public ::testing::Test {
  protected:
   void SetUp() override {
-    folder.AddFile("Work/Plan.gtp", "plan");
-    folder.AddFile("Work/MY PLAN.GTP");
-    folder.AddFile("both.GTP", "small");
-    folder.AddFile("BOTH.GTP", "big");
+    folder.AddFile("Examples/Trip One.gtp");
+    folder.AddFile("same.GTP");
+    folder.AddFile("SAME.GTP");
+    folder.AddFile("H/a.gtp", "HALT");
+    ASSERT_TRUE(QDir::setCurrent(folder.Path()));
   }
 
-  TemporaryFolder folder;
+  /// The native path of a name in the folder, shown from the folder on.
+  QString Native(const QString& sName) {
+    const QString sNative = paths.Native(folder.StationPath(sName));
+    EXPECT_TRUE(sNative.startsWith(folder.Path()));
+    return sNative.mid(folder.Path().size() + 1);
+  }
+
+  NativeFolder folder;
   LinuxPaths paths;
 };
 
-struct PathRow {
-  const char* sStation;
-  const char* sNative;
-};
+TEST_F(LinuxPathsTest, BackslashesBecomeSlashesAndBack) {
+  EXPECT_EQ(paths.Native("\\no\\such\\Place"), "/no/such/Place");
+  EXPECT_EQ(LinuxPaths::Station("/no/such/Place"), "\\no\\such\\Place");
+}
 
-const PathRow PathRows[] = {
-    {"Work\\Plan.gtp", "Work/Plan.gtp"},
-    {"WORK\\PLAN.GTP", "Work/Plan.gtp"},
-    {"work\\my plan.gtp", "Work/MY PLAN.GTP"},
-    {"WORK", "Work"},
-    {"BOTH.GTP", "BOTH.GTP"},
-    {"Work\\New.gtp", "Work/New.gtp"},
-    {"WORK\\New.gtp", "Work/New.gtp"},
-    {"Nowhere\\New.gtp", "Nowhere/New.gtp"},
-};
+TEST_F(LinuxPathsTest, NamesAreFoundWithoutRegardToCase) {
+  EXPECT_EQ(Native("Examples\\Trip One.gtp"), "Examples/Trip One.gtp");
+  EXPECT_EQ(Native("EXAMPLES\\TRIP ONE.GTP"), "Examples/Trip One.gtp");
+  EXPECT_EQ(Native("examples\\trip one.GTP"), "Examples/Trip One.gtp");
+}
 
-TEST_F(Paths, AreFoundAsSpeltAndElseWithoutRegardToCase) {
-  for (const PathRow& row : PathRows) {
-    EXPECT_EQ(paths.Native(folder.Station(row.sStation)), folder.Native(row.sNative));
+TEST_F(LinuxPathsTest, PathThatIsUpperCaseAsAWholeIsFound) {
+  EXPECT_EQ(paths.Native(folder.StationPath("H\\a.gtp").toUpper()), folder.Path("H/a.gtp"));
+}
+
+TEST_F(LinuxPathsTest, ExactSpellingWins) {
+  EXPECT_EQ(LinuxPaths().Native(folder.StationPath("same.GTP")), folder.Path("same.GTP"));
+  EXPECT_EQ(LinuxPaths().Native(folder.StationPath("SAME.GTP")), folder.Path("SAME.GTP"));
+}
+
+TEST_F(LinuxPathsTest, WhatIsNowhereStaysAsSpeltBehindWhatIs) {
+  EXPECT_EQ(Native("EXAMPLES\\New.gtp"), "Examples/New.gtp");
+  EXPECT_EQ(Native("Nothing\\New.gtp"), "Nothing/New.gtp");
+}
+
+TEST_F(LinuxPathsTest, RelativePathsAreLookedUpInTheCurrentFolder) {
+  EXPECT_EQ(paths.Native("EXAMPLES\\TRIP ONE.GTP"), "Examples/Trip One.gtp");
+  EXPECT_EQ(paths.Native("h\\A.gtp"), "H/a.gtp");
+}
+
+TEST_F(LinuxPathsTest, FileKeepsItsSpellingAfterItWasDeleted) {
+  EXPECT_EQ(Native("EXAMPLES\\TRIP ONE.GTP"), "Examples/Trip One.gtp");
+  QFile::remove(folder.Path("Examples/Trip One.gtp"));
+  EXPECT_EQ(Native("EXAMPLES\\TRIP ONE.GTP"), "Examples/Trip One.gtp");
+}
+
+TEST_F(LinuxPathsTest, EmptyPathIsNoPath) {
+  EXPECT_EQ(paths.Native(""), "");
+}
+
+TEST_F(LinuxPathsTest, CommandLineNamesFilesFromTheRoot) {
+  const QString sFile = LinuxPaths::Station(QDir::currentPath()) + "\\H\\a.gtp";
+  for (const QString& sArgument :
+       {folder.Path("H/a.gtp"), QString("H/a.gtp"), QString("./H/../H/a.gtp")}) {
+    EXPECT_EQ(CommandLine({"glidetrak", sArgument}), sFile) << sArgument.toStdString();
   }
 }
 
-TEST_F(Paths, KeepTheSpellingByWhichAFileWasFound) {
-  paths.Native(folder.Station("WORK\\PLAN.GTP"));
-  QFile::remove(folder.Native("Work/Plan.gtp"));
-  EXPECT_EQ(paths.Native(folder.Station("Work\\PLAN.gtp")), folder.Native("Work/Plan.gtp"));
+TEST_F(LinuxPathsTest, CommandLineQuotesFilesWithBlanks) {
+  const QString sFile = LinuxPaths::Station(QDir::currentPath()) + "\\Examples\\Trip One.gtp";
+  EXPECT_EQ(CommandLine({"glidetrak", "Examples/Trip One.gtp"}), '"' + sFile + '"');
 }
 
-TEST_F(Paths, AreWrittenWithBackslashes) {
-  EXPECT_EQ(LinuxPaths::Station("/home/user/a b.gtp"), "\\home\\user\\a b.gtp");
-}
-
-TEST_F(Paths, OfTheCommandLineBecomeStationPathsWhereTheyNameAFile) {
-  const QStringList aArguments{"glidetrak", folder.Native("Work/Plan.gtp"),
-                               folder.Native("Work/MY PLAN.GTP"), "/DEBUGMODE", "/LANG='2'"};
-  EXPECT_EQ(CommandLine(aArguments), folder.Station("Work\\Plan.gtp") + " \"" +
-                                         folder.Station("Work\\MY PLAN.GTP") +
-                                         "\" /DEBUGMODE /LANG='2'");
-}
-
-TEST_F(Paths, OfTheCommandLineThatAreRelativeMeanTheFolderOfTheCommand) {
-  QDir::setCurrent(folder.Native("Work"));
-  EXPECT_EQ(CommandLine({"glidetrak", "Plan.gtp"}), folder.Station("Work\\Plan.gtp"));
-  EXPECT_EQ(CommandLine({"glidetrak", "../both.GTP"}), folder.Station("both.GTP"));
-  EXPECT_EQ(CommandLine({"glidetrak", "Nowhere.gtp"}), "Nowhere.gtp");
-}
-
-TEST_F(Paths, OfAnEmptyCommandLineAreNone) {
+TEST_F(LinuxPathsTest, CommandLineLeavesEverythingElseAsItIs) {
   EXPECT_EQ(CommandLine({"glidetrak"}), "");
+  EXPECT_EQ(CommandLine({"glidetrak", "/DEBUGMODE", "/LANG='2'", "nothing.gtp"}),
+            "/DEBUGMODE /LANG='2' nothing.gtp");
+  EXPECT_EQ(CommandLine({"same.GTP"}), "");
+}
+
+TEST_F(LinuxPathsTest, FileInAFolderOfTheSwitchesNameIsFoundThroughTheCommandLine) {
+  LinuxMachine machine;
+  pMachine = &machine;
+  for (const char* sName : {"H/a.gtp", "Examples/Trip One.gtp"}) {
+    ParseCommandLine(CommandLine({"glidetrak", "/DEBUGMODE", sName}));
+    EXPECT_FALSE(sCommandLineFile.isEmpty()) << sName;
+    EXPECT_EQ(machine.NativePath(sCommandLineFile), QDir::currentPath() + '/' + sName);
+  }
+  pMachine = nullptr;
 }
 
 }  // namespace
+
 }  // namespace glidetrak

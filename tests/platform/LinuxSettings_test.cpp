@@ -1,103 +1,136 @@
-// The settings store in its two scopes, in folders of the test's own.
+// The settings store: a file a scope, in folders of the test's own.
 
 #include "platform/linux/LinuxSettings.h"
 
-#include <gtest/gtest.h>
+#include <optional>
 
-#include "platform/TemporaryFolder.h"
-#include "station/Print.h"
+#include "platform/NativeFolder.h"
 
 namespace glidetrak {
+
 namespace {
 
-const char* const sPosition = "Software\\Torvane\\Glidetrak\\Position";
-const char* const sTorvane = "Software\\Torvane";
+const QString sPosition = "Software\\Torvane\\Glidetrak\\Position";
+const QString sTorvane = "Software\\Torvane";
 
-class Settings : public ::testing::Test {
+class LinuxSettingsTest : public ::testing::Test {
  protected:
   void SetUp() override {
-    qputenv("XDG_CONFIG_HOME", folder.Native("user").toLocal8Bit());
-    qputenv("XDG_CONFIG_DIRS", folder.Native("machine").toLocal8Bit());
+    qputenv("XDG_CONFIG_HOME", user.Path().toUtf8());
+    qputenv("XDG_CONFIG_DIRS", machine.Path().toUtf8());
   }
 
-  void StoreUser(const QByteArray& bytes) { folder.AddFile("user/Torvane/Glidetrak.conf", bytes); }
+  static QString Read(Scope scope, const QString& sName) {
+    return LinuxSettings(scope).Text(sPosition, sName);
+  }
+  static bool Write(Scope scope, const QString& sName, const QString& sValue) {
+    return LinuxSettings(scope).Write(sPosition, sName, sValue);
+  }
+  void Store(const NativeFolder& folder, const QByteArray& text) {
+    folder.AddFile("Torvane/Glidetrak.conf", text);
+  }
 
-  TemporaryFolder folder;
+  NativeFolder user, machine;
 };
 
-TEST_F(Settings, KeepWhatIsWrittenScopeByScope) {
-  EXPECT_TRUE(LinuxSettings(Scope::User).Write(sPosition, "Left", "120"));
-  EXPECT_TRUE(LinuxSettings(Scope::Machine).Write(sPosition, "Left", "-15"));
-  EXPECT_EQ(LinuxSettings(Scope::User).Text(sPosition, "Left"), "120");
-  EXPECT_EQ(LinuxSettings(Scope::Machine).Text(sPosition, "Left"), "-15");
+TEST_F(LinuxSettingsTest, MissingFileKeyOrNameIsEmpty) {
+  EXPECT_EQ(Read(Scope::User, "Left"), "");
+  Store(user, "[Position]\nTop=1\n[Other]\nLeft=2\n");
+  EXPECT_EQ(Read(Scope::User, "Left"), "");
 }
 
-TEST_F(Settings, StandInOneFileAScope) {
-  LinuxSettings(Scope::User).Write(sPosition, "Left", "120");
-  LinuxSettings(Scope::Machine).Write(sPosition, "Top", "30");
-  EXPECT_TRUE(QFile::exists(folder.Native("user/Torvane/Glidetrak.conf")));
-  EXPECT_TRUE(QFile::exists(folder.Native("machine/Torvane/Glidetrak.conf")));
+TEST_F(LinuxSettingsTest, ScopesAreTwoFiles) {
+  EXPECT_TRUE(Write(Scope::User, "Left", "300"));
+  EXPECT_TRUE(Write(Scope::Machine, "Left", "-450"));
+  EXPECT_EQ(Read(Scope::User, "Left"), "300");
+  EXPECT_EQ(Read(Scope::Machine, "Left"), "-450");
+  EXPECT_TRUE(user.Bytes("Torvane/Glidetrak.conf").contains("[Position]\nLeft=300\n"));
+  EXPECT_TRUE(machine.Bytes("Torvane/Glidetrak.conf").contains("Left=-450"));
 }
 
-TEST_F(Settings, DoNotReachFromOneScopeIntoTheOther) {
-  LinuxSettings(Scope::Machine).Write(sPosition, "Left", "-15");
-  EXPECT_EQ(LinuxSettings(Scope::User).Text(sPosition, "Left"), "");
+TEST_F(LinuxSettingsTest, ScopesDoNotFallBackOnEachOther) {
+  Write(Scope::Machine, "Left", "300");
+  EXPECT_EQ(Read(Scope::User, "Left"), "");
+  Write(Scope::User, "Top", "300");
+  EXPECT_EQ(Read(Scope::Machine, "Top"), "");
 }
 
-TEST_F(Settings, MatchNamesWithoutRegardToCase) {
-  LinuxSettings(Scope::User).Write(sPosition, "Left", "120");
-  LinuxSettings(Scope::User).Write(sPosition, "LEFT", "130");
-  EXPECT_EQ(LinuxSettings(Scope::User).Text(sPosition, "left"), "130");
+TEST_F(LinuxSettingsTest, NamesMatchWithoutRegardToCase) {
+  Write(Scope::User, "Left", "300");
+  for (const char* sName : {"left", "LEFT", "Left"}) EXPECT_EQ(Read(Scope::User, sName), "300");
 }
 
-TEST_F(Settings, AreEmptyWhereNothingIsStored) {
-  EXPECT_EQ(LinuxSettings(Scope::User).Text(sPosition, "Left"), "");
-  EXPECT_EQ(LinuxSettings(Scope::User).Number(sTorvane, "UILanguage"), std::nullopt);
+TEST_F(LinuxSettingsTest, WriteInAnotherCaseReplacesTheValue) {
+  Write(Scope::User, "Left", "300");
+  Write(Scope::User, "left", "450");
+  EXPECT_EQ(Read(Scope::User, "LEFT"), "450");
+  EXPECT_EQ(user.Bytes("Torvane/Glidetrak.conf").toLower().count("left="), 1);
 }
 
-TEST_F(Settings, KeepTextsWithCommasAndBlanks) {
-  for (const char* sText : {"a,b", "a, b ,c", " 7 ", "1,5", "=;#", "Ñandú"}) {
-    LinuxSettings(Scope::User).Write(sPosition, "Left", sText);
-    EXPECT_EQ(LinuxSettings(Scope::User).Text(sPosition, "Left"), sText);
+TEST_F(LinuxSettingsTest, AnyTextComesBackAsItWas) {
+  for (const QString& sText : {QString("1,5"), QString("a, b,c"), QString(","), QString("a;b"),
+                               QString(" 300 "), QString("\"x\""), QString("a\\b"), QString("%41"),
+                               QString("@x"), u"\u00F1\u20AC"_qs, QString("")}) {
+    EXPECT_TRUE(Write(Scope::User, "Left", sText));
+    EXPECT_EQ(Read(Scope::User, "Left"), sText);
   }
+}
+
+TEST_F(LinuxSettingsTest, TextWithCommasWrittenByHandIsOneText) {
+  Store(user, "[Position]\nLeft=1,5\nTop=\"1,5\"\n");
+  EXPECT_EQ(Read(Scope::User, "Left"), "1,5");
+  EXPECT_EQ(Read(Scope::User, "Top"), "1,5");
 }
 
 struct NumberRow {
-  const char* sStored;
-  std::optional<qint32> lNumber;
+  const char* sText;
+  std::optional<qint32> number;
 };
 
-const NumberRow NumberRows[] = {
-    {"dword:00000c0a", 3082},
-    {"dword:0000040A", 1034},
-    {"DWORD:00000c0a", 3082},
-    {"dword:0", 0},
-    {"dword:ffffffff", -1},
-    {"3082", std::nullopt},
-    {"0x0c0a", std::nullopt},
-    {"dword:", std::nullopt},
-    {"dword:zz", std::nullopt},
-    {"", std::nullopt},
-    {"dword:100000000", std::nullopt},
-};
-
-TEST_F(Settings, AreNumbersOnlyWhereTheyAreMarkedSo) {
-  QByteArray file = "[Torvane]\n";
-  for (size_t i = 0; i < std::size(NumberRows); ++i) {
-    file += 'N' + QByteArray::number(i) + '=' + NumberRows[i].sStored + '\n';
+TEST_F(LinuxSettingsTest, NumberIsADwordAndNothingElse) {
+  const NumberRow rows[] = {
+      {"dword:0000040a", 0x40A},
+      {"dword:00000C0A", 0xC0A},
+      {"DWORD:0000040A", 0x40A},
+      {"dword:00000000", 0},
+      {"dword:ffffffff", -1},
+      {"dword:409", 0x409},
+      {"1034", std::nullopt},
+      {"", std::nullopt},
+      {"dword:", std::nullopt},
+      {"dword:xyz", std::nullopt},
+      {"dword:1ffffffff", std::nullopt},
+      {"0x40A", std::nullopt},
+  };
+  QByteArray text = "[Torvane]\n";
+  int iName = 0;
+  for (const NumberRow& row : rows) {
+    text += "Value" + QByteArray::number(iName++) + "=" + row.sText + "\n";
   }
-  StoreUser(file);
-  for (size_t i = 0; i < std::size(NumberRows); ++i) {
-    EXPECT_EQ(LinuxSettings(Scope::User).Number(sTorvane, QString("N%1").arg(i)),
-              NumberRows[i].lNumber)
-        << NumberRows[i].sStored;
+  Store(user, text);
+  iName = 0;
+  for (const NumberRow& row : rows) {
+    const QString sName = "value" + QString::number(iName++);
+    EXPECT_EQ(LinuxSettings(Scope::User).Number(sTorvane, sName), row.number) << row.sText;
   }
 }
 
-TEST_F(Settings, TellWhenAWriteDidNotReachTheStore) {
-  folder.AddFile("machine");  // a file where the folder should be
-  EXPECT_FALSE(LinuxSettings(Scope::Machine).Write(sPosition, "Left", "120"));
+TEST_F(LinuxSettingsTest, MissingNumberIsNone) {
+  EXPECT_EQ(LinuxSettings(Scope::Machine).Number(sTorvane, "UILanguage"), std::nullopt);
+}
+
+TEST_F(LinuxSettingsTest, WriteThatDoesNotReachTheStoreIsFalse) {
+  qputenv("XDG_CONFIG_DIRS", "/dev/null/nowhere");
+  EXPECT_FALSE(Write(Scope::Machine, "Left", "300"));
+  EXPECT_EQ(Read(Scope::Machine, "Left"), "");
+  EXPECT_TRUE(Write(Scope::User, "Left", "300"));
+}
+
+TEST_F(LinuxSettingsTest, FileThatIsNoSettingsFileIsEmpty) {
+  Store(user, QByteArray("\1\2[[[===\n\n]]\nLeft"));
+  EXPECT_EQ(Read(Scope::User, "Left"), "");
 }
 
 }  // namespace
+
 }  // namespace glidetrak

@@ -5,7 +5,7 @@
 #include <QCoreApplication>
 #include <QRegularExpression>
 
-#include "linux/NativeFolder.h"
+#include "platform/NativeFolder.h"
 
 namespace glidetrak {
 
