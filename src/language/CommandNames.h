@@ -49,10 +49,8 @@ struct CommandName {
   bool bIsSensor = false;  ///< no statement begins with it
 };
 
-/// One entry a row, and a last one that stays empty. Empty until BuildCommandNames, at start-up.
+/// One entry a row, and a last one that stays empty. The command catalogue fills it at start-up,
+/// from KeywordTable.
 inline std::array<CommandName, iCommandNameCount + 1> CommandNameTable;
-
-/// Fills CommandNameTable from KeywordTable.
-void BuildCommandNames();
 
 }  // namespace glidetrak

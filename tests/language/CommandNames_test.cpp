@@ -2,6 +2,7 @@
 
 #include "language/CommandNames.h"
 
+#include "authoring/CommandPicker.h"
 #include "language/Keywords.h"
 #include "language/LanguageTest.h"
 #include "strings/LanguageFunctions.h"
@@ -36,7 +37,7 @@ TEST_F(CommandNamesTest, StandInTheirOrderWithABlankWhereAnArgumentFollows) {
 
 TEST_F(CommandNamesTest, AreMadeOfTheWordsOfTheTable) {
   KeywordTable[static_cast<size_t>(Keyword::Get)] = "HOLE";
-  BuildCommandNames();
+  BuildCommandCatalogue();
   EXPECT_EQ(CommandNameTable[7].sName, "HOLE ");
 }
 
