@@ -28,6 +28,13 @@ void OfferToSave() {
   SaveProgram();
 }
 
+/// From here on no hand reaches the panel: a click in the wait of shut-down would drive the rig
+/// again behind its zero byte.
+void LockForm() {
+  frmGlidetrak.Enabled = false;
+  SetRunMenus(false);
+}
+
 }  // namespace
 
 void Form_QueryUnload(bool& bCancel) {
@@ -46,6 +53,7 @@ void Form_QueryUnload(bool& bCancel) {
 }
 
 void Form_Unload() {
+  LockForm();
   SkipOnError(ShutDownHardware);
   pMachine->EndProcess();
 }

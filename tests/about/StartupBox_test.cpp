@@ -1,6 +1,7 @@
 // The box that greets at every start.
 
 #include "about/AboutTest.h"
+#include "hardware/NamedRow.h"
 
 namespace glidetrak {
 
@@ -61,7 +62,7 @@ TEST_F(AboutTest, LinkIsToldThreeSecondsAfterLoading) {
   EXPECT_FALSE(tmrUpdate.Enabled);
 }
 
-struct LinkRow {
+struct LinkRow : NamedRow {
   bool bAtFirst, bBefore, bAfter;  ///< the link at start, before and after the third second
   QString sTold;
 };
@@ -80,13 +81,14 @@ TEST_P(LinkTold, IsThatOfTheThirdSecond) {
   EXPECT_EQ(lblplw8Instruct.Caption.value(), row.sTold);
 }
 
-INSTANTIATE_TEST_SUITE_P(About, LinkTold,
-                         ::testing::Values(LinkRow{false, false, false, sNotDetected},
-                                           LinkRow{false, false, true, sNotDetected},
-                                           LinkRow{false, true, true, sDetected},
-                                           LinkRow{true, false, true, sNotDetected},
-                                           LinkRow{true, true, false, sDetected}),
-                         [](const auto& row) { return "Row" + std::to_string(row.index); });
+INSTANTIATE_TEST_SUITE_P(
+    About, LinkTold,
+    ::testing::Values(LinkRow{{"NeverUp"}, false, false, false, sNotDetected},
+                      LinkRow{{"UpTooLate"}, false, false, true, sNotDetected},
+                      LinkRow{{"UpInTime"}, false, true, true, sDetected},
+                      LinkRow{{"DownAtThatMoment"}, true, false, true, sNotDetected},
+                      LinkRow{{"LostAfterwards"}, true, true, false, sDetected}),
+    RowName());
 
 TEST_F(AboutTest, StartupBoxGoesSixSecondsAfterLoading) {
   station.Start();

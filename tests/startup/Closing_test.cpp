@@ -3,6 +3,8 @@
 #include "shell/Closing.h"
 #include "programs/ProgramFiles.h"
 #include "startup/StartUpTest.h"
+#include "track/OutputImage.h"
+#include "transcript/Clicks.h"
 
 namespace glidetrak {
 
@@ -175,6 +177,14 @@ TEST_F(Closing, UnloadSwitchesTheRigOffAndEndsTheProcess) {
   EXPECT_FALSE(bTicking);
   EXPECT_TRUE(bShuttingDown);
   EXPECT_GE(platform.lNow - lStart, 200);
+}
+
+TEST_F(Closing, AClickInTheLastWaitDoesNotReachTheRig) {
+  SetPower(15);
+  platform.At(platform.lNow + 50, [] { ClickControl("cmdBackward"); });
+  platform.At(platform.lNow + 60, [] { ClickControl("MNURUN"); });
+  EXPECT_THROW(frmGlidetrak.FormUnload(), ProcessEnded);
+  EXPECT_EQ(platform.rig.aWritten.back().lByte, 0);
 }
 
 TEST_F(Closing, UnloadWithTheLinkDownTouchesNoHardware) {
