@@ -1,5 +1,6 @@
 #include "view/ProgramEditor.h"
 
+#include <QCoreApplication>
 #include <QMimeData>
 #include <QScopedValueRollback>
 #include <QScrollBar>
@@ -13,6 +14,8 @@
 namespace glidetrak {
 
 namespace {
+
+const auto FollowEvent = static_cast<QEvent::Type>(QEvent::registerEventType());
 
 constexpr qsizetype iLargeText = 1'000'000;  ///< from here on the widget is filled in pieces
 constexpr qsizetype iSlice = 300'000;        ///< a piece that a user does not feel
@@ -90,26 +93,33 @@ void ProgramEditor::FillSlice() {
   setReadOnly(!bComplete);
   setUndoRedoEnabled(bComplete);
   if (m_iFilled < m_iShowable) {
-    QueueSlice();
+    FollowLater();
   } else if (m_bSelectionCut) {
     MarkSelection();
   }
 }
 
-/// A piece that was queued for an earlier text goes on with the present one.
-void ProgramEditor::QueueSlice() {
-  if (std::exchange(m_bSliceQueued, true)) return;
-  const auto slice = [this] {
-    m_bSliceQueued = false;
-    if (m_iFilled < m_iShowable) FillSlice();
-  };
-  QMetaObject::invokeMethod(this, slice, Qt::QueuedConnection);
+/// Whatever waits by then is done at the next turn of the event loop, once.
+void ProgramEditor::FollowLater() {
+  if (std::exchange(m_bFollowPosted, true)) return;
+  QCoreApplication::postEvent(this, new QEvent(FollowEvent));
+}
+
+void ProgramEditor::Follow() {
+  m_bFollowPosted = false;
+  CatchUp();
+  if (m_iFilled < m_iShowable) FillSlice();
+}
+
+/// What the user does next is done to what the station shows by now.
+void ProgramEditor::CatchUp() {
+  MendStale();
+  ApplySelection();
 }
 
 void ProgramEditor::MarkStale() {
   m_bStale = true;
-  QMetaObject::invokeMethod(
-      this, [this] { MendStale(); }, Qt::QueuedConnection);
+  FollowLater();
 }
 
 void ProgramEditor::MendStale() {
@@ -122,9 +132,8 @@ void ProgramEditor::MendStale() {
 
 /// A run selects a line for every statement: the widget follows once per return to the event loop.
 void ProgramEditor::MarkSelection() {
-  if (std::exchange(m_bSelectionMarked, true)) return;
-  QMetaObject::invokeMethod(
-      this, [this] { ApplySelection(); }, Qt::QueuedConnection);
+  m_bSelectionMarked = true;
+  FollowLater();
 }
 
 void ProgramEditor::ApplySelection() {
@@ -165,13 +174,11 @@ void ProgramEditor::TellEdit(int iPosition, int iRemoved) {
   if (ShownLength() != DocumentLength()) MarkStale();
 }
 
-/// What the user does next is done to what the station shows by now.
-void ProgramEditor::CatchUp() {
-  MendStale();
-  ApplySelection();
-}
-
 bool ProgramEditor::event(QEvent* pEvent) {
+  if (pEvent->type() == FollowEvent) {
+    Follow();
+    return true;
+  }
   if (pEvent->type() == QEvent::KeyPress || pEvent->type() == QEvent::InputMethod) CatchUp();
   return QPlainTextEdit::event(pEvent);
 }

@@ -35,10 +35,11 @@ class ProgramEditor : public QPlainTextEdit {
   void FollowText();
   void Fill();
   void FillSlice();
-  void QueueSlice();
+  void FollowLater();
+  void Follow();
+  void CatchUp();
   void MarkStale();
   void MendStale();
-  void CatchUp();
 
   // The selection, either way.
   void MarkSelection();
@@ -55,7 +56,7 @@ class ProgramEditor : public QPlainTextEdit {
   TextBox& m_box;
   qsizetype m_iShowable = 0;        ///< so much of the station's text the widget can show
   qsizetype m_iFilled = 0;          ///< so much of the station's text is in the widget
-  bool m_bSliceQueued = false;      ///< the next piece will come
+  bool m_bFollowPosted = false;     ///< a turn of Follow will come
   bool m_bStale = false;            ///< the widget no longer shows the station's text
   bool m_bSelectionMarked = false;  ///< the station's selection will be applied
   bool m_bSelectionCut = false;     ///< it reached beyond what was filled then
