@@ -3,7 +3,6 @@
 #include <QTextBlock>
 #include <QTextCharFormat>
 #include <algorithm>
-#include <ranges>
 
 namespace glidetrak {
 
@@ -63,11 +62,13 @@ int DocumentPosition(const std::vector<int>& aStarts, int iOffset) {
   return next == aStarts.end() ? iPosition : std::min(iPosition, *next - 2 - iLine);
 }
 
+/// Line i begins i places earlier in the document than in the text.
 int StationOffset(const std::vector<int>& aStarts, int iPosition) {
-  const auto lines = std::views::iota(0, static_cast<int>(aStarts.size()));
-  const auto next = std::ranges::partition_point(
-      lines, [&](int i) { return aStarts[static_cast<size_t>(i)] - i <= iPosition; });
-  return iPosition + static_cast<int>(next - lines.begin()) - 1;
+  const auto next = std::ranges::partition_point(aStarts, [&](const int& iStart) {
+    const auto iLine = &iStart - aStarts.data();
+    return iStart - iLine <= iPosition;
+  });
+  return iPosition + static_cast<int>(next - aStarts.begin()) - 1;
 }
 
 void InsertShown(QTextCursor& cursor, QStringView sText) {

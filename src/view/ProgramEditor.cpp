@@ -10,6 +10,7 @@
 #include "common/SkipOnError.h"
 #include "view/EditorText.h"
 #include "view/EventRelay.h"
+#include "view/ToolkitTexts.h"
 
 namespace glidetrak {
 
@@ -18,7 +19,7 @@ namespace {
 const auto FollowEvent = static_cast<QEvent::Type>(QEvent::registerEventType());
 
 constexpr qsizetype iLargeText = 1'000'000;  ///< from here on the widget is filled in pieces
-constexpr qsizetype iSlice = 300'000;        ///< a piece that a user does not feel
+constexpr qsizetype iSlice = 100'000;        ///< a piece that a user does not feel
 
 /// The widget lays a line out as a whole, in a time that grows with the square of its length. A
 /// text that compiles is shorter than this in all.
@@ -190,6 +191,12 @@ bool ProgramEditor::viewportEvent(QEvent* pEvent) {
   const bool bAnswered = QPlainTextEdit::viewportEvent(pEvent);
   if (bMouse) RelayMouse(m_box, *this, static_cast<QMouseEvent&>(*pEvent));
   return bAnswered;
+}
+
+/// The menu is the toolkit's own.
+void ProgramEditor::contextMenuEvent(QContextMenuEvent* pEvent) {
+  InstallToolkitTexts();
+  QPlainTextEdit::contextMenuEvent(pEvent);
 }
 
 /// A line separator is a line end like any other.

@@ -23,6 +23,7 @@ class ProgramEditor : public QPlainTextEdit {
  protected:
   bool event(QEvent* pEvent) override;
   bool viewportEvent(QEvent* pEvent) override;
+  void contextMenuEvent(QContextMenuEvent* pEvent) override;
   void keyPressEvent(QKeyEvent* pEvent) override;
   void mouseMoveEvent(QMouseEvent* pEvent) override;
   void mouseDoubleClickEvent(QMouseEvent* pEvent) override;

@@ -1,6 +1,7 @@
 #include "view/View.h"
 
 #include <QApplication>
+#include <QIcon>
 #include <QMenuBar>
 #include <utility>
 
@@ -11,6 +12,7 @@
 #include "view/MainWindow.h"
 #include "view/MenuBar.h"
 #include "view/Monitors.h"
+#include "view/PictureStore.h"
 #include "view/Pointers.h"
 #include "view/RunKeys.h"
 
@@ -51,6 +53,12 @@ void BuildMainForm() {
   new RunKeys(pMainWindow);
 }
 
+void SetIcon() {
+  constexpr QSize IconSize(64, 64);
+  QGuiApplication::setWindowIcon(
+      PictureAt(PictureId::AboutEmblem, IconSize, 1, Fit::KeepProportions));
+}
+
 void BuildAboutForm() {
   auto* pWindow = new FormWindow(frmAbout, "frmAbout", pMainWindow);
   MakeControls(AboutFormTable(), pWindow->Client(), *new FocusKeeper(pWindow));
@@ -73,6 +81,7 @@ FormWindow* MainWindow() {
 /// A box that closes while the main window is still hidden would else be taken for the last window.
 void BuildView() {
   QGuiApplication::setQuitOnLastWindowClosed(false);
+  SetIcon();
   BuildMainForm();
   BuildAboutForm();
   WatchScreen();

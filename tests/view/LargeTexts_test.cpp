@@ -82,5 +82,25 @@ TEST_F(LargeTexts, ASelectionBeyondTheFilledPartIsShownInTheEnd) {
   EXPECT_EQ(Editor()->textCursor().blockNumber(), 80'000);
 }
 
+/// Laying it out would take minutes, and no program has such a line.
+TEST_F(LargeTexts, ALineThatIsTooLongIsShownInPartForReading) {
+  ShowEditor();
+  const QString sText = "A\r\n" + QString(60'000, QChar(0)) + "\r\nB";
+  txtProgram.SetText(sText);
+  Settle();
+  EXPECT_EQ(Shown(), 50'002);
+  EXPECT_TRUE(Editor()->isReadOnly());
+  QTest::keyClicks(Editor(), "x");
+  Editor()->selectAll();
+  Editor()->cut();
+  EXPECT_EQ(txtProgram.Text(), sText);
+  txtProgram.Select(static_cast<int>(sText.size()), 0);
+  Settle();
+  EXPECT_EQ(Editor()->textCursor().position(), 50'002);
+  EXPECT_EQ(txtProgram.SelStart(), sText.size());
+  txtProgram.SetText("B");
+  EXPECT_FALSE(Editor()->isReadOnly());
+}
+
 }  // namespace
 }  // namespace glidetrak
