@@ -150,7 +150,7 @@ int OperandErrorMessage(const RuntimeError& error) {
   }
 }
 
-bool ApplyOperand(qint16 iValue, QString sOperator) {
+bool ApplyOperand(qint16 iValue, const QString& sOperator) {
   try {
     if (sOperator == u"*") {
       lExprResult = CheckedInt32(qint64{lExprResult} * iValue);

@@ -20,7 +20,7 @@ bool EvaluateExpression(const QString& sText);
 /// lExprResult times (*), divided by (/, cut towards zero) or plus (any other operator, none
 /// included) the value. On an error a message is shown, the result is false and lExprResult keeps
 /// its value.
-bool ApplyOperand(qint16 iValue, QString sOperator);
+bool ApplyOperand(qint16 iValue, const QString& sOperator);
 
 /// The message for an error in ApplyOperand: 514 for a division by zero, 515 for an overflow of 32
 /// bits (its wording speaks of 16), 516 for anything else.

@@ -173,7 +173,7 @@ QString SelectProgramLine(qint32 lIndex) {
 
 QString FindCommandKeyword(const QString& sText) {
   for (const CommandName& name : CommandNameTable) {
-    const QString sWord = UpperCase(TrimBlanks(name.sName));
+    QString sWord = UpperCase(TrimBlanks(name.sName));
     if (!name.bIsSensor && !sWord.isEmpty() && sText.startsWith(sWord)) return sWord;
   }
   SkipOnError([&] { ExecuteLet(sText, false); });

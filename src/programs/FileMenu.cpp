@@ -64,7 +64,7 @@ QString ChooseProgram() {
   QString sExtension;
   while (true) {
     AskForOpenName();
-    const QString sPath = cmLoad.FileName;
+    QString sPath = cmLoad.FileName;
     if (sPath.isEmpty()) return {};
     sUserFolder = GetFolderOfPath(sPath);
     if (sPath.size() > 3) sExtension = UpperCase(sPath.right(3));

@@ -15,7 +15,7 @@ constexpr int iLongestWait = 500;  ///< milliseconds
 /// The user's run-time folder, or one of our own that only the user may enter; "" when there is
 /// neither.
 QString RuntimeFolder() {
-  const QString sGiven = qEnvironmentVariable("XDG_RUNTIME_DIR");
+  QString sGiven = qEnvironmentVariable("XDG_RUNTIME_DIR");
   if (!sGiven.isEmpty() && QDir(sGiven).exists()) return sGiven;
   const QByteArray own = "/tmp/glidetrak-" + QByteArray::number(getuid());
   mkdir(own.constData(), 0700);

@@ -56,7 +56,7 @@ QByteArray LinuxMachine::ReadFile(const QString& sPath) {
   QFile file(sNative);
   // A pipe or a device would block: what is no regular file cannot be read.
   if (!info.isFile() || !file.open(QIODevice::ReadOnly)) throw RuntimeError(Fault::FileAccess);
-  const QByteArray bytes = file.readAll();
+  QByteArray bytes = file.readAll();
   if (file.error() != QFileDevice::NoError) throw RuntimeError(Fault::FileAccess);
   return bytes;
 }
