@@ -52,8 +52,11 @@ QWidget* MakeWidget(ImageButton& button, const Setting& setting) {
   Observe(pWidget, button.Caption, [pWidget, &button] { pWidget->setText(button.Caption); });
   Observe(pWidget, button.ForeColor,
           [pWidget, &button] { pWidget->ShowForeColour(ColourOf(button.ForeColor)); });
-  QObject::connect(pWidget, &QAbstractButton::pressed, pWidget, [&button] { Fire(button.Press); });
-  QObject::connect(pWidget, &QAbstractButton::clicked, pWidget, [&button] { Fire(button.Click); });
+  // Both with the click: a box that Press opens while the button is down would swallow the release.
+  QObject::connect(pWidget, &QAbstractButton::clicked, pWidget, [&button] {
+    Fire(button.Press);
+    Fire(button.Click);
+  });
   RelayActive(pWidget, button);
   return pWidget;
 }

@@ -27,7 +27,7 @@ void OfferName(QFileDialog& box, const QString& sName) {
   box.selectFile(offered.fileName());
 }
 
-/// The toolkit's own dialog: a session's native one asks before it overwrites.
+/// The toolkit's own dialog: the desktop's native one asks before it overwrites.
 void Prepare(QFileDialog& box, const FileDialog& dialog) {
   box.setOptions(QFileDialog::DontUseNativeDialog | QFileDialog::DontConfirmOverwrite);
   box.setWindowTitle(dialog.DialogTitle);

@@ -6,7 +6,7 @@
 
 namespace glidetrak {
 
-/// The desktop of a real session. A question box answers to its buttons alone: it has no escape and
+/// The real desktop. A question box answers to its buttons alone: it has no escape and
 /// no close button, and Enter takes Yes. The window's rectangles are its own without the frame, in
 /// logical pixels. Whatever speaks of the main window is for the time after BuildView.
 class ViewDesktop : public Desktop {

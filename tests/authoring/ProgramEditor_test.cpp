@@ -205,6 +205,14 @@ TEST_F(ProgramEditor, SelectsALineOfTheLastCompileByADoubleClick) {
   }
 }
 
+TEST_F(ProgramEditor, SelectsNothingByADoubleClickAheadOfTheFirstCompile) {
+  txtProgram.SetText("BEEP");
+  txtProgram.Select(1, 0);
+  txtProgram.DblClick();
+  EXPECT_EQ(txtProgram.SelStart(), 1);
+  EXPECT_EQ(txtProgram.SelLength(), 0);
+}
+
 TEST_F(ProgramEditor, SelectsNothingByADoubleClickWhileAProgramRuns) {
   txtProgram.SetText("BEEP");
   CompileProgram();

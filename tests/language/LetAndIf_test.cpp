@@ -220,6 +220,36 @@ TEST_F(IfStatement, TellsOnceOfWhatItCannotTest) {
   }
 }
 
+struct TestedLampRow {
+  const char* sCondition;
+  int iBit;
+};
+
+const TestedLampRow TestedLamps[] = {
+    {"CITY_CALL=ON", 1}, {"SOUND_SENSOR=OFF", 6}, {"PA7=ON", 7}, {"PA0=OFF", 0}};
+
+/// Red whatever the condition asks for; the lamps of the refresh are another red.
+TEST_F(IfStatement, LightsTheLampOfATestedInputOnTheDebugPanel) {
+  pnlDebug.Visible = true;
+  for (const TestedLampRow& row : TestedLamps) {
+    for (const bool bSet : {true, false}) {
+      lInputImage = bSet ? 1 << row.iBit : 255 & ~(1 << row.iBit);
+      ledInput[row.iBit].FillColor = lChosenYellow;
+      EXPECT_TRUE(ExecuteIf(row.sCondition)) << row.sCondition;
+      EXPECT_EQ(ledInput[row.iBit].FillColor, bSet ? 255 : 0) << row.sCondition << bSet;
+      bInIfBlock = false;
+    }
+  }
+}
+
+TEST_F(IfStatement, LeavesTheLampsAloneWhileTheDebugPanelIsHidden) {
+  pnlDebug.Visible = false;
+  lInputImage = 1 << 1;
+  ledInput[1].FillColor = lChosenYellow;
+  EXPECT_TRUE(ExecuteIf("CITY_CALL=ON"));
+  EXPECT_EQ(ledInput[1].FillColor, lChosenYellow);
+}
+
 TEST_F(IfStatement, RefusesASecondLevel) {
   bInIfBlock = true;
   EXPECT_FALSE(ExecuteIf("A=5"));

@@ -254,6 +254,16 @@ TEST_F(OutputWrites, ThatFailAreToldToNobody) {
   EXPECT_TRUE(station.platform.aBoxes.empty());
 }
 
+TEST_F(OutputWrites, ThatFailStillReachTheDebugPanel) {
+  pnlDebug.Visible = true;
+  station.platform.rig.bLibraryThere = false;
+  SetOutputBit(6, true);
+  EXPECT_EQ(lOutputImage, 80);
+  EXPECT_EQ(ledOutput[6].FillColor, 223);
+  SetPower(1);
+  EXPECT_EQ(ledOutput[0].FillColor, 223);
+}
+
 TEST_F(OutputWrites, SendTheByteThatStandsInTheImage) {
   lOutputImage = 0xF0;
   SetPower(15);

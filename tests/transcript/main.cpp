@@ -3,6 +3,7 @@
 #include <QCommandLineParser>
 #include <QCoreApplication>
 #include <QFile>
+#include <QFileInfo>
 #include <atomic>
 #include <chrono>
 #include <cstdio>
@@ -34,7 +35,9 @@ void WatchForHang(const std::atomic<qint64>& lClock) {
   }).detach();
 }
 
+/// A pipe or a device would not come to an end: what is no regular file cannot be read.
 bool ReadWhole(const QString& sPath, QByteArray& bytes) {
+  if (!QFileInfo(sPath).isFile()) return false;
   QFile file(sPath);
   if (!file.open(QIODevice::ReadOnly)) return false;
   bytes = file.readAll();
