@@ -1,5 +1,9 @@
 #include "platform/ConfigurationText.h"
 
+#include <QSet>
+
+#include "platform/FoldCase.h"
+
 namespace glidetrak {
 
 namespace {
@@ -13,18 +17,18 @@ QByteArrayView TakeLine(QByteArrayView& rest) {
   return line;
 }
 
-bool SameName(QByteArrayView name, const QString& sWanted) {
-  return QString::fromLatin1(name.trimmed()).compare(sWanted, Qt::CaseInsensitive) == 0;
+QString Name(QByteArrayView name) {
+  return FoldCase(QString::fromLatin1(name.trimmed()));
 }
 
 bool IsSectionHead(QByteArrayView line) {
   return line.trimmed().startsWith('[');
 }
 
-bool IsSection(QByteArrayView line, const QString& sSection) {
+QString SectionName(QByteArrayView line) {
   const QByteArrayView head = line.trimmed().sliced(1);
   const qsizetype iEnd = head.indexOf(']');
-  return SameName(iEnd < 0 ? head : head.first(iEnd), sSection);
+  return Name(iEnd < 0 ? head : head.first(iEnd));
 }
 
 QByteArrayView WithoutQuotes(QByteArrayView value) {
@@ -35,22 +39,32 @@ QByteArrayView WithoutQuotes(QByteArrayView value) {
 
 }  // namespace
 
-std::optional<QByteArray> FindConfigurationString(const QByteArray& bytes, const QString& sSection,
-                                                  const QString& sKey) {
+ConfigurationText::ConfigurationText(const QByteArray& bytes) {
   QByteArrayView rest = bytes;
+  QSet<QString> aSections;
+  QString sSection;
   bool bInSection = false;
   while (!rest.isEmpty()) {
     const QByteArrayView line = TakeLine(rest);
     if (IsSectionHead(line)) {
-      if (bInSection) return {};
-      bInSection = IsSection(line, sSection);
+      sSection = SectionName(line);
+      bInSection = !aSections.contains(sSection);
+      aSections.insert(sSection);
       continue;
     }
     const qsizetype iEquals = line.indexOf('=');
-    if (!bInSection || iEquals < 0 || !SameName(line.first(iEquals), sKey)) continue;
-    return WithoutQuotes(line.sliced(iEquals + 1).trimmed()).toByteArray();
+    if (!bInSection || iEquals < 0) continue;
+    const auto name = std::pair(sSection, Name(line.first(iEquals)));
+    if (m_aValues.contains(name)) continue;
+    m_aValues.insert(name, WithoutQuotes(line.sliced(iEquals + 1).trimmed()).toByteArray());
   }
-  return {};
+}
+
+std::optional<QByteArray> ConfigurationText::Value(const QString& sSection,
+                                                   const QString& sKey) const {
+  const auto found = m_aValues.constFind({FoldCase(sSection), FoldCase(sKey)});
+  if (found == m_aValues.constEnd()) return {};
+  return *found;
 }
 
 }  // namespace glidetrak

@@ -3,15 +3,26 @@
 // INI files as text.
 
 #include <QByteArray>
+#include <QHash>
 #include <QString>
 #include <optional>
+#include <utility>
 
 namespace glidetrak {
 
-/// The value of a key in a section of an INI file's bytes: section and key match without regard to
-/// case, the first that matches counts, blanks around names and value go, and so does one pair of
-/// quotes around the value. Line ends are CR LF, LF or CR.
-std::optional<QByteArray> FindConfigurationString(const QByteArray& bytes, const QString& sSection,
-                                                  const QString& sKey);
+/// The values of an INI file's bytes. Section and key match without regard to case and the first
+/// that matches counts, so that a section that comes again is passed over. Blanks around names and
+/// value go, and so does one pair of quotes around the value. Line ends are CR LF, LF or CR.
+class ConfigurationText {
+ public:
+  explicit ConfigurationText(const QByteArray& bytes = {});
+
+  /// The value of a key in a section; nothing when it is not there.
+  std::optional<QByteArray> Value(const QString& sSection, const QString& sKey) const;
+
+ private:
+  /// By section and key, both case folded.
+  QHash<std::pair<QString, QString>, QByteArray> m_aValues;
+};
 
 }  // namespace glidetrak

@@ -37,7 +37,7 @@ class LessonFiles : public ::testing::TestWithParam<FolderRow> {
   static QString Folder() { return QString(GLIDETRAK_DATA) + GetParam().sFolder; }
 
   QByteArray Value(const QString& sSection, const QString& sKey) const {
-    return FindConfigurationString(configuration, sSection, sKey).value_or(QByteArray());
+    return ConfigurationText(configuration).Value(sSection, sKey).value_or(QByteArray());
   }
 
   QByteArray Lesson(int n) const {

@@ -20,7 +20,7 @@ struct TextRow {
 void Expect(const TextRow& row) {
   std::optional<QByteArray> wanted;
   if (row.sValue != nullptr) wanted = row.sValue;
-  EXPECT_EQ(FindConfigurationString(row.sText, "S", "K"), wanted) << row.sText;
+  EXPECT_EQ(ConfigurationText(row.sText).Value("S", "K"), wanted) << row.sText;
 }
 
 TEST(ConfigurationText, KeyIsFoundInItsSection) {
@@ -82,24 +82,24 @@ TEST(ConfigurationText, KeyElsewhereIsNone) {
 TEST(ConfigurationText, ZeroBytesAreBytesLikeOthers) {
   QByteArray text = "#junk#\r\n[S]\r\n###\r\nK=v#w\r\n";
   text.replace('#', '\0');
-  EXPECT_EQ(FindConfigurationString(text, "S", "K"), QByteArray("v\0w", 3));
+  EXPECT_EQ(ConfigurationText(text).Value("S", "K"), QByteArray("v\0w", 3));
 }
 
 TEST(ConfigurationText, LongLinesAreTakenWhole) {
   const QByteArray value(60000, 'x');
-  EXPECT_EQ(FindConfigurationString("[S]\r\nK=" + value + "\r\n", "S", "K"), value);
-  EXPECT_EQ(FindConfigurationString(value + "\r\n[S]\r\nK=v\r\n", "S", "K"), "v");
+  EXPECT_EQ(ConfigurationText("[S]\r\nK=" + value + "\r\n").Value("S", "K"), value);
+  EXPECT_EQ(ConfigurationText(value + "\r\n[S]\r\nK=v\r\n").Value("S", "K"), "v");
 }
 
 TEST(ConfigurationText, TenMegabytesAreReadToTheirEnd) {
   QByteArray text;
   while (text.size() < 10'000'000) text += "[Other section]\r\nK=not this one\r\n; a comment\r\n";
-  EXPECT_EQ(FindConfigurationString(text, "S", "K"), std::nullopt);
-  EXPECT_EQ(FindConfigurationString(text + "[S]\r\nK=v", "S", "K"), "v");
+  EXPECT_EQ(ConfigurationText(text).Value("S", "K"), std::nullopt);
+  EXPECT_EQ(ConfigurationText(text + "[S]\r\nK=v").Value("S", "K"), "v");
 }
 
 TEST(ConfigurationText, ValueKeepsTheBytesOfTheCodePage) {
-  EXPECT_EQ(FindConfigurationString("[S]\r\nK=\xA1HOLA\x80!\r\n", "S", "K"), "\xA1HOLA\x80!");
+  EXPECT_EQ(ConfigurationText("[S]\r\nK=\xA1HOLA\x80!\r\n").Value("S", "K"), "\xA1HOLA\x80!");
 }
 
 }  // namespace

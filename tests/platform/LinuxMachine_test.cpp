@@ -2,6 +2,8 @@
 
 #include "platform/linux/LinuxMachine.h"
 
+#include <sys/stat.h>
+
 #include <QCoreApplication>
 #include <QRegularExpression>
 
@@ -39,6 +41,29 @@ TEST_F(LinuxMachineTest, ConfigurationIsReadFromItsFile) {
   EXPECT_EQ(machine.ConfigurationValue("s", "k", folder.StationPath("TV_GLIDETRAK.INI")), "v");
   EXPECT_EQ(FaultOf([&] { machine.ConfigurationValue("s", "k", folder.StationPath("X")); }),
             Fault::FileNotFound);
+}
+
+TEST_F(LinuxMachineTest, ConfigurationIsReadAgainWhenItChanged) {
+  const QString sFile = folder.StationPath("A.INI");
+  folder.AddFile("A.INI", "[S]\r\nK=v\r\n");
+  folder.AddFile("B.INI", "[S]\r\nK=other\r\n");
+  EXPECT_EQ(machine.ConfigurationValue("S", "K", sFile), "v");
+  EXPECT_EQ(machine.ConfigurationValue("S", "K", folder.StationPath("B.INI")), "other");
+  EXPECT_EQ(machine.ConfigurationValue("S", "K", sFile), "v");
+  folder.AddFile("A.INI", "[S]\r\nK=another\r\n");
+  EXPECT_EQ(machine.ConfigurationValue("S", "K", sFile), "another");
+  QFile::remove(folder.Path("A.INI"));
+  EXPECT_EQ(FaultOf([&] { machine.ConfigurationValue("S", "K", sFile); }), Fault::FileNotFound);
+}
+
+TEST_F(LinuxMachineTest, ConfigurationThatIsNoFileCannotBeRead) {
+  QDir(folder.Path()).mkdir("Folder");
+  mkfifo(folder.Path("Pipe").toUtf8().constData(), 0600);
+  for (const char* sName : {"Folder", "Pipe"}) {
+    const auto read = [&] { machine.ConfigurationValue("S", "K", folder.StationPath(sName)); };
+    EXPECT_EQ(FaultOf(read), Fault::FileAccess) << sName;
+    EXPECT_EQ(FaultOf(read), Fault::FileAccess) << sName;
+  }
 }
 
 TEST_F(LinuxMachineTest, EndOfProcessIsAtOnce) {

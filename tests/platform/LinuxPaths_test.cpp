@@ -51,6 +51,38 @@ TEST_F(LinuxPathsTest, ExactSpellingWins) {
   EXPECT_EQ(LinuxPaths().Native(folder.StationPath("SAME.GTP")), folder.Path("SAME.GTP"));
 }
 
+TEST_F(LinuxPathsTest, ExactSpellingWinsOverOneThatWasFoundBefore) {
+  for (const char* sName : {"same.GTP", "SAME.GTP", "same.GTP"}) {
+    EXPECT_EQ(Native(sName), sName);
+  }
+}
+
+TEST_F(LinuxPathsTest, NamesThatDifferInMoreThanCaseAreTwo) {
+  for (const char* sName : {"strasse.gtp", "straße.gtp", "ışık.gtp", "isik.gtp", "Поезд.gtp"}) {
+    folder.AddFile(sName);
+  }
+  for (const char* sName : {"strasse.gtp", "straße.gtp", "ışık.gtp", "isik.gtp", "Поезд.gtp"}) {
+    EXPECT_EQ(Native(sName), sName);
+  }
+  EXPECT_EQ(Native("поезд.GTP"), "Поезд.gtp");
+  EXPECT_EQ(Native("STRAßE.GTP"), "straße.gtp");
+}
+
+TEST_F(LinuxPathsTest, NewNameBesideOneThatWasFoundIsANewFile) {
+  folder.AddFile("strasse.gtp");
+  EXPECT_EQ(Native("strasse.gtp"), "strasse.gtp");
+  EXPECT_EQ(Native("straße.gtp"), "straße.gtp");
+}
+
+TEST_F(LinuxPathsTest, PathOfFourThousandCharactersIsFound) {
+  QString sPath;
+  while (sPath.size() < 3700) sPath += "Folder of a name that is rather long/";
+  folder.AddFile(sPath + "A.gtp", "HALT");
+  EXPECT_EQ(Native(sPath + "A.gtp"), sPath + "A.gtp");
+  EXPECT_EQ(Native(sPath.toUpper() + "a.GTP"), sPath + "A.gtp");
+  EXPECT_EQ(paths.Native(QString(4000, u'x')), QString(4000, u'x'));
+}
+
 TEST_F(LinuxPathsTest, WhatIsNowhereStaysAsSpeltBehindWhatIs) {
   EXPECT_EQ(Native("EXAMPLES\\New.gtp"), "Examples/New.gtp");
   EXPECT_EQ(Native("Nothing\\New.gtp"), "Nothing/New.gtp");

@@ -48,6 +48,15 @@ TEST_F(LinuxSettingsTest, ScopesAreTwoFiles) {
   EXPECT_TRUE(machine.Bytes("Torvane/Glidetrak.conf").contains("Left=-450"));
 }
 
+/// Desktops put folders of the user's own ahead of the machine's.
+TEST_F(LinuxSettingsTest, MachinesFolderIsTheLastOfItsList) {
+  const NativeFolder desktop;
+  qputenv("XDG_CONFIG_DIRS", (desktop.Path() + ':' + machine.Path()).toUtf8());
+  Store(desktop, "[Position]\nLeft=1\n");
+  Store(machine, "[Position]\nLeft=2\n");
+  EXPECT_EQ(Read(Scope::Machine, "Left"), "2");
+}
+
 TEST_F(LinuxSettingsTest, ScopesDoNotFallBackOnEachOther) {
   Write(Scope::Machine, "Left", "300");
   EXPECT_EQ(Read(Scope::User, "Left"), "");

@@ -141,9 +141,7 @@ bool VirtualPlatform::WriteSetting(Scope scope, const QString& sKey, const QStri
 std::optional<QByteArray> VirtualPlatform::ConfigurationValue(const QString& sSection,
                                                               const QString& sKey,
                                                               const QString& sPath) {
-  const std::optional<QByteArray> bytes = FileBytes(sPath);
-  if (!bytes) return {};
-  return FindConfigurationString(*bytes, sSection, sKey);
+  return ConfigurationText(ReadFile(sPath)).Value(sSection, sKey);
 }
 
 std::optional<PixelRect> VirtualPlatform::NormalRect() {

@@ -112,7 +112,14 @@ bool LinuxMachine::WriteSetting(Scope scope, const QString& sKey, const QString&
 std::optional<QByteArray> LinuxMachine::ConfigurationValue(const QString& sSection,
                                                            const QString& sKey,
                                                            const QString& sPath) {
-  return FindConfigurationString(ReadFile(sPath), sSection, sKey);
+  // The catalogue asks for up to 65,535 keys of one file: it is read again only when it changed.
+  const QFileInfo info(m_paths.Native(sPath));
+  const ReadStamp stamp{info.filePath(), info.size(), info.lastModified()};
+  if (stamp != m_configurationStamp || !info.exists()) {
+    m_configuration = ConfigurationText(ReadFile(sPath));
+    m_configurationStamp = stamp;
+  }
+  return m_configuration.Value(sSection, sKey);
 }
 
 std::optional<qint32> LinuxMachine::ReadRegistryNumber(Scope scope, const QString& sKey,

@@ -2,8 +2,10 @@
 
 // The machine as Linux answers it: everything that needs no window.
 
+#include <QDateTime>
 #include <QLibrary>
 
+#include "platform/ConfigurationText.h"
 #include "platform/Platform.h"
 #include "platform/linux/LinuxHid.h"
 #include "platform/linux/LinuxInstance.h"
@@ -61,7 +63,17 @@ class LinuxMachine : public Machine {
   qint32 CallTrackport(const char* sOperation, std::initializer_list<qint32> arguments) override;
 
  private:
+  /// By which a file is known to be the one that was read.
+  struct ReadStamp {
+    QString sNative;
+    qint64 lSize = -1;
+    QDateTime modified;
+    bool operator==(const ReadStamp&) const = default;
+  };
+
   LinuxPaths m_paths;
+  ConfigurationText m_configuration;  ///< of the file of m_configurationStamp
+  ReadStamp m_configurationStamp;
   LinuxHid m_hid;
   LinuxInstance m_instance;
   QLibrary m_trackport;  ///< libtrackport32.so beside the executable, loaded at its first call

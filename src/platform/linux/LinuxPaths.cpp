@@ -3,6 +3,8 @@
 #include <QDir>
 #include <QFileInfo>
 
+#include "platform/FoldCase.h"
+
 namespace glidetrak {
 
 namespace {
@@ -38,13 +40,19 @@ QString ArgumentText(const QString& sArgument) {
 }  // namespace
 
 QString LinuxPaths::Native(const QString& sStationPath) {
-  const QString sKey = sStationPath.toUpper();
-  const auto known = m_aFound.constFind(sKey);
-  if (known != m_aFound.constEnd()) return *known;
-  QString sNative = sStationPath;
-  sNative.replace(u'\\', u'/');
-  if (!QFileInfo::exists(sNative)) sNative = Lookup(sNative);
-  if (QFileInfo::exists(sNative)) m_aFound.insert(sKey, sNative);
+  const QString sKey = FoldCase(sStationPath);
+  QString sAsSpelt = sStationPath;
+  sAsSpelt.replace(u'\\', u'/');
+  if (QFileInfo::exists(sAsSpelt)) return Remember(sKey, sAsSpelt);
+  const QString sKnown = m_aFound.value(sKey);
+  if (QFileInfo::exists(sKnown)) return sKnown;
+  const QString sFound = Lookup(sAsSpelt);
+  if (QFileInfo::exists(sFound)) return Remember(sKey, sFound);
+  return sKnown.isEmpty() ? sFound : sKnown;
+}
+
+QString LinuxPaths::Remember(const QString& sKey, const QString& sNative) {
+  m_aFound.insert(sKey, sNative);
   return sNative;
 }
 

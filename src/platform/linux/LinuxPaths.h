@@ -19,7 +19,9 @@ class LinuxPaths {
   static QString Station(const QString& sNative);
 
  private:
-  QHash<QString, QString> m_aFound;  ///< upper-case station path to native path
+  QString Remember(const QString& sKey, const QString& sNative);
+
+  QHash<QString, QString> m_aFound;  ///< station path without its case to native path
 };
 
 /// The arguments behind the program's name as one raw text. One that names a file becomes a

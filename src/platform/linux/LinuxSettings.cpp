@@ -10,7 +10,8 @@ QString SettingsFile(Scope scope) {
   const QString sName = "/Torvane/Glidetrak.conf";
   const QStringList aFolders = QStandardPaths::standardLocations(QStandardPaths::ConfigLocation);
   if (scope == Scope::User) return aFolders.value(0) + sName;
-  return aFolders.value(1, "/etc/xdg") + sName;
+  // A desktop may put folders of the user's own ahead of the machine's.
+  return (aFolders.size() > 1 ? aFolders.last() : "/etc/xdg") + sName;
 }
 
 QString Group(const QString& sKey) {
