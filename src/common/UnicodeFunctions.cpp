@@ -25,9 +25,10 @@ int FindCode(QChar character) {
   return iFirstSpecial + static_cast<int>(found - aSpecials.begin());
 }
 
-/// `changed` if the code page holds it, else the character as it was.
+/// `changed` if the code page holds both, else the character as it was.
 QChar WithinCodePage(QChar character, QChar changed) {
-  return FindCode(changed) == iNotInCodePage ? character : changed;
+  const bool bWithin = FindCode(character) != iNotInCodePage && FindCode(changed) != iNotInCodePage;
+  return bWithin ? changed : character;
 }
 
 template <class Change>

@@ -31,7 +31,9 @@ QString VersionText() {
 
 }  // namespace
 
+/// A showing that begins while another stands takes its timers over: off, as a form loads them.
 void frmAbout_Load() {
+  frmAbout_Unload();
   frmAbout.Caption = LoadText(80);
   CentreOnMainForm();
   lblProgName.Caption = frmAbout.Caption.value();

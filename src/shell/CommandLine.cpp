@@ -35,10 +35,10 @@ bool TakeValueSwitch(QString& sText, const QString& sSwitch, QString& sTarget) {
 qint16 HexNumber(const QString& sValue) {
   qsizetype iEnd = 0;
   while (iEnd < sValue.size() && QString("0123456789ABCDEF").contains(sValue[iEnd])) ++iEnd;
+  if (iEnd == 0) return 0;
   bool bOk = false;
   const uint lNumber = sValue.left(iEnd).toUInt(&bOk, 16);
-  if (!bOk) return 0;
-  if (lNumber > 0xFFFF) throw RuntimeError(Fault::Overflow);
+  if (!bOk || lNumber > 0xFFFF) throw RuntimeError(Fault::Overflow);
   return static_cast<qint16>(lNumber);
 }
 

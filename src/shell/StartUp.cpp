@@ -1,5 +1,7 @@
 #include "shell/StartUp.h"
 
+#include <algorithm>
+
 #include "authoring/CommandPicker.h"
 #include "authoring/Document.h"
 #include "authoring/ProgramEditor.h"
@@ -41,13 +43,14 @@ void TakeSystemLanguage() {
   sLanguageIndex = QString::number(LanguageIndexFromCode(GetSystemLanguage()));
 }
 
+/// /LANG takes any text; a number that stands for no language becomes one of no language's, too.
 int LanguageIndex() {
-  return static_cast<int>(NumericPrefix(sLanguageIndex));
+  return static_cast<int>(std::clamp(NumericPrefix(sLanguageIndex), -1.0, 100.0));
 }
 
 /// Id 10 tells which texts came out: without a table of its own a language counts as English.
 void DropLanguageWithoutTexts() {
-  if (LoadText(10) == "1" && LanguageIndex() > 2) sLanguageIndex = "0";
+  if (LoadText(10) == "1" && NumericPrefix(sLanguageIndex) > 2) sLanguageIndex = "0";
 }
 
 void ChooseLanguageFolder() {

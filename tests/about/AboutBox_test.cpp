@@ -40,6 +40,19 @@ TEST_F(AboutBox, StaysUntilItsPictureIsClicked) {
   EXPECT_EQ(aCalls, (Calls{"modal", "main focus", "unload"}));
 }
 
+/// The timers of the start-up box end with its showing.
+TEST_F(AboutBox, StaysWhenItTookTheStartUpBoxesPlace) {
+  Station another;
+  another.Start();
+  another.platform.RunFor(2000);
+  ASSERT_TRUE(TmrAbout.Enabled);
+  another.Click("MNUAbout");
+  EXPECT_FALSE(TmrAbout.Enabled);
+  aCalls.clear();
+  another.platform.RunFor(20000);
+  EXPECT_EQ(aCalls, Calls{});
+}
+
 TEST_F(AboutBox, LeavesTheTickRunning) {
   station.Click("MNUAbout");
   EXPECT_TRUE(tmrSystem.Enabled);

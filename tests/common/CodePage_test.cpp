@@ -120,6 +120,13 @@ TEST(LowerCase, StaysWithinTheCodePage) {
   }
 }
 
+/// Dotless and dotted i, the long s and the Kelvin sign have their other case within it.
+TEST(Case, LeavesLettersOutsideTheCodePageAlone) {
+  const QString sText = "ıİſ\u212AПп";
+  EXPECT_EQ(UpperCase(sText), sText);
+  EXPECT_EQ(LowerCase(sText), sText);
+}
+
 TEST(Case, NeverChangesALength) {
   for (int i = 0; i < 256; ++i) {
     const QString sText(CharFromCode(i));

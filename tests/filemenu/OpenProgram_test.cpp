@@ -188,6 +188,9 @@ TEST_F(FileMenuTest, OldFormatProgramIsNamedAfterTheNextFreeName) {
   OpenFile("\\HOME\\A.TXT", "HALT");
   EXPECT_EQ(sProgramFile, "\\HOME\\A2.GTP");
   EXPECT_EQ(frmGlidetrak.Caption.value(), "A2.GTP : Glidetrak Control");
+  save.aReplies = {{""}};
+  SaveProgram();
+  EXPECT_EQ(save.aShowings.at(0).sName, "\\HOME\\A2.GTP");
 }
 
 TEST_F(FileMenuTest, OldFormatProgramIsNeverWrittenBack) {

@@ -71,6 +71,13 @@ TEST_F(PickerTest, ClosesWithoutATrace) {
   }
 }
 
+TEST_F(PickerTest, ClosesOverChangesThatAreNotSaved) {
+  txtProgram.UserEdit(0, 0, "X");
+  ShowCommandPicker();
+  station.Click("btnCloseComSel");
+  EXPECT_TRUE(bProgramDirty);
+}
+
 }  // namespace
 
 }  // namespace glidetrak

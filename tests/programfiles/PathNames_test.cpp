@@ -43,6 +43,13 @@ TEST_F(PathNames, AreTakenFromTheCommandLineWithoutTheirQuotes) {
   }
 }
 
+TEST_F(PathNames, OfFourThousandCharactersAreTakenWhole) {
+  const QString sPath = "C:\\" + QString(3993, u'X') + ".GTP";
+  EXPECT_EQ(ResolveFileArgument(sPath), "");
+  station.platform.AddFile(sPath, "");
+  EXPECT_EQ(ResolveFileArgument(sPath), sPath);
+}
+
 const char* const ArgumentsRefused[] = {
     "",     "C:\\B.GTP",  "C:\\A.TXT", "C:\\FOLDER.GTP", "A.GTP", "C:\\A.GTP C:\\A.GTP",
     "\"\"", "C:\\A.GTP ", "GTP",       ".GTP",

@@ -165,6 +165,23 @@ TEST_F(Closing, AsksAgainAfterANo) {
   EXPECT_EQ(platform.aBoxes.size(), 2U);
 }
 
+TEST_F(Closing, GoesOnWhenAStepFails) {
+  for (const char* sStep : {"NormalRect", "WriteSetting"}) {
+    platform.aFailing = {sStep};
+    EXPECT_FALSE(QueryUnload()) << sStep;
+  }
+  EXPECT_EQ(platform.aBoxes.size(), 2U);
+}
+
+TEST_F(Closing, GoesOnWhenTheSaveFails) {
+  Type("X");
+  cmSave.ShowSave = [] { throw RuntimeError(Fault::PlatformCall); };
+  platform.aUnwritable = {"\\H\\A.GTP"};
+  platform.aUndeletable = {"\\H\\A.GTP"};
+  EXPECT_FALSE(QueryUnload());
+  EXPECT_FALSE(platform.aWritten.empty());
+}
+
 TEST_F(Closing, UnloadSwitchesTheRigOffAndEndsTheProcess) {
   lOutputImage = 0xFF;
   bool bTicking = true;

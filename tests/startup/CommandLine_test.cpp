@@ -90,7 +90,9 @@ TEST_F(StartUpTest, LcTakesACodeBehindOneSeparatorOfWhateverKind) {
 }
 
 TEST_F(StartUpTest, CodeOfMoreThanSixteenBitsIsPassedOver) {
-  ExpectLanguage({"/LC=10C0A", "9", 0});
+  for (const char* sText : {"/LC=10C0A", "/LC=10000", "/LC=123456789", "/LC=1234567890ABCDEF01"}) {
+    ExpectLanguage({sText, "9", 0});
+  }
 }
 
 TEST_F(StartUpTest, WithoutALanguageSwitchTheIndexStands) {

@@ -63,6 +63,15 @@ INSTANTIATE_TEST_SUITE_P(
         ChoiceRow{{"IndexSixStandsInSpanish"}, 0x0C0A, "/LANG='6'", "6", "Language\\043F\\", true},
         ChoiceRow{
             {"UnknownIndexMeansUnitedStates"}, 0x0C0A, "/LANG='7'", "7", "Language\\0409\\", true},
+        ChoiceRow{{"IndexBetweenTwoAndThree"}, 0x0409, "/LANG='2.5'", "0", "", false},
+        ChoiceRow{{"IndexBeyondAnyNumber"}, 0x0409, "/LANG='99999999999'", "0", "", false},
+        ChoiceRow{{"IndexBeyondAnyNumberInSpanish"},
+                  0x0C0A,
+                  "/LANG='99999999999'",
+                  "99999999999",
+                  "Language\\0409\\",
+                  true},
+        ChoiceRow{{"IndexBelowNothing"}, 0x0C0A, "/LANG='-99999999999'", "-99999999999", "", true},
         ChoiceRow{{"IndexOneHasNoFolder"}, 0x0C0A, "/LANG='1'", "1", "", true},
         ChoiceRow{{"IndexThatIsNoNumber"}, 0x0409, "/LANG='X'", "X", "", false}),
     RowName());

@@ -75,6 +75,12 @@ TEST_F(StartUpTest, ConfigurationKeyThatIsMissingTakesItsDefault) {
   EXPECT_EQ(GetIniString("S", "K", "default", "\\NOTHING.INI"), "default");
 }
 
+TEST_F(StartUpTest, ConfigurationThatCannotBeReadYieldsTheDefaults) {
+  platform.AddFile("\\C.INI", "[S]\r\nK=value\r\n");
+  platform.aUnreadable = {"\\C.INI"};
+  EXPECT_EQ(GetIniString("S", "K", "default", "\\C.INI"), "default");
+}
+
 TEST_F(StartUpTest, DocumentsFolderEndsInABackslash) {
   const struct {
     std::optional<QString> sFolder;

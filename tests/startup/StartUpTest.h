@@ -48,6 +48,10 @@ class NotingPlatform : public VirtualPlatform {
     Call("NearestMonitor");
     return VirtualPlatform::NearestMonitor();
   }
+  std::optional<PixelRect> NormalRect() override {
+    Call("NormalRect");
+    return VirtualPlatform::NormalRect();
+  }
   std::vector<QByteArray> HidPaths() override {
     Call("HidPaths");
     return VirtualPlatform::HidPaths();
