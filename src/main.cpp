@@ -8,6 +8,7 @@
 #include "platform/linux/LinuxSignals.h"
 #include "shell/Events.h"
 #include "shell/StartUp.h"
+#include "view/MainWindow.h"
 #include "view/View.h"
 
 int main(int argc, char** argv) {
@@ -17,7 +18,7 @@ int main(int argc, char** argv) {
   glidetrak::pMachine = &machine;
   glidetrak::pDesktop = &desktop;
 
-  machine.SetActivation([] { glidetrak::frmGlidetrak.SetFocus(); });
+  machine.SetActivation([] { glidetrak::MainWindow()->ComeForward(); });
 
   glidetrak::OnTermination([] { glidetrak::frmGlidetrak.FormUnload(); });
 

@@ -1,6 +1,8 @@
 #include "view/FormWindow.h"
 
+#include <QApplication>
 #include <QCloseEvent>
+#include <QDialog>
 #include <QEventLoop>
 #include <QScopedValueRollback>
 #include <algorithm>
@@ -34,6 +36,16 @@ Qt::WindowState ToolkitState(int iState) {
   return iState == stateMaximised ? Qt::WindowMaximized : Qt::WindowNoState;
 }
 
+/// The toolkit would show the application's name in place of an empty title.
+QString TitleOf(const Form& form) {
+  return form.Caption.value().isEmpty() ? " " : form.Caption.value();
+}
+
+/// The message box or file dialog that waits for an answer, on top of every form; null without one.
+QWidget* OpenBox() {
+  return qobject_cast<QDialog*>(QApplication::activeModalWidget());
+}
+
 }  // namespace
 
 FormWindow::FormWindow(Form& form, const char* sName, QWidget* pOwner)
@@ -50,7 +62,7 @@ FormWindow::FormWindow(Form& form, const char* sName, QWidget* pOwner)
 }
 
 void FormWindow::ObserveForm() {
-  Observe(this, m_form.Caption, [this] { setWindowTitle(m_form.Caption); });
+  Observe(this, m_form.Caption, [this] { setWindowTitle(TitleOf(m_form)); });
   Observe(this, m_form.Enabled, [this] { Client()->setEnabled(m_form.Enabled); });
   ObserveChanges(this, m_form.Width, [this] { ObeySize(); });
   ObserveChanges(this, m_form.Height, [this] { ObeySize(); });
@@ -68,14 +80,23 @@ void FormWindow::FillMethods() {
   m_form.ShowModal = [this] { ShowModal(); };
   m_form.Unload = [this] { close(); };
   m_form.Refresh = [this] { repaint(); };
-  m_form.SetFocus = [this] { ComeForward(); };
+  m_form.SetFocus = [this] { TakeFocus(); };
 }
 
 void FormWindow::ComeForward() {
   if (!isVisible()) return;
   setWindowState(windowState() & ~Qt::WindowMinimized);
   raise();
-  activateWindow();
+  if (OpenBox() != nullptr) OpenBox()->raise();
+  TakeFocus();
+}
+
+/// A minimised window stays so. An open box keeps the focus: behind the window it could not be
+/// answered, and the station would seem dead.
+void FormWindow::TakeFocus() {
+  if (!isVisible() || isMinimized()) return;
+  QWidget* pFront = OpenBox() != nullptr ? OpenBox() : this;
+  pFront->activateWindow();
 }
 
 /// What the menu bar leaves. Computed rather than asked of the client's widget, which a hidden

@@ -20,6 +20,10 @@ class FormWindow : public QMainWindow {
 
   QWidget* Client() const { return centralWidget(); }
 
+  /// To the front and active, out of the minimised state too; an open box stays on top of it. No
+  /// effect while hidden.
+  void ComeForward();
+
   /// Makes the window so large that the client area has the form's scale size.
   void FitClient();
 
@@ -40,7 +44,7 @@ class FormWindow : public QMainWindow {
   void TellSize();
   void TellPlace();
   QSize ClientSize() const;
-  void ComeForward();
+  void TakeFocus();
 
   Form& m_form;
   QSize m_toldClient;                  ///< the client area that the station knows

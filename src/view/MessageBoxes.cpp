@@ -1,9 +1,9 @@
 #include "view/MessageBoxes.h"
 
-#include <QApplication>
 #include <QKeyEvent>
 #include <QMessageBox>
 
+#include "view/MainWindow.h"
 #include "view/ToolkitTexts.h"
 
 namespace glidetrak {
@@ -53,17 +53,24 @@ BoxAnswer Tell(QMessageBox& box) {
   return BoxAnswer::Ok;
 }
 
+/// The main window, which outlives every box; the start-up box may go while the box is open. A
+/// minimised owner would hide the box with it.
+QWidget* Owner() {
+  const bool bShown = MainWindow() != nullptr && MainWindow()->isVisible();
+  return bShown && !MainWindow()->isMinimized() ? MainWindow() : nullptr;
+}
+
 }  // namespace
 
 BoxAnswer ShowMessageBox(const QString& sText, const QString& sTitle, BoxIcon icon,
                          BoxButtons buttons) {
   InstallToolkitTexts();
   if (buttons == BoxButtons::YesNo) {
-    QuestionBox box(QApplication::activeWindow());
+    QuestionBox box(Owner());
     Prepare(box, sText, sTitle, icon);
     return Ask(box);
   }
-  QMessageBox box(QApplication::activeWindow());
+  QMessageBox box(Owner());
   Prepare(box, sText, sTitle, icon);
   return Tell(box);
 }

@@ -259,5 +259,68 @@ TEST_F(Window, AShownAboutBoxMayBecomeModal) {
   EXPECT_FALSE(AboutWindow()->isVisible());
 }
 
+TEST_F(Window, AnEmptyTitleIsNotReplacedByTheToolkit) {
+  frmAbout.Caption = "title";
+  EXPECT_EQ(AboutWindow()->windowTitle(), "title");
+  frmAbout.Caption = "";
+  EXPECT_EQ(AboutWindow()->windowTitle(), " ");
+}
+
+TEST_F(Window, AMinimisedOneStaysSoWhenItIsGivenTheFocus) {
+  Show();
+  frmGlidetrak.WindowState = stateMinimised;
+  frmGlidetrak.SetFocus();
+  Settle();
+  EXPECT_TRUE(MainWindow()->isMinimized());
+  EXPECT_EQ(frmGlidetrak.WindowState, stateMinimised);
+  MainWindow()->ComeForward();
+  EXPECT_FALSE(MainWindow()->isMinimized());
+}
+
+/// The start-up box gives the main window the focus in its sixth second, whatever is open then.
+TEST_F(Window, ABoxKeepsTheFocusWhenAFormIsGivenIt) {
+  Show();
+  const std::function<void()> aRoads[] = {[] { frmGlidetrak.SetFocus(); },
+                                          [] { MainWindow()->ComeForward(); }};
+  for (const auto& giveFocus : aRoads) {
+    bool bBoxActive = false;
+    QTimer::singleShot(0, MainWindow(), [&] {
+      QWidget* pBox = QApplication::activeModalWidget();
+      giveFocus();
+      Settle();
+      bBoxActive = pBox->isActiveWindow();
+      EXPECT_EQ(pBox->parentWidget(), MainWindow());
+      pBox->close();
+    });
+    ViewDesktop().ShowBox("text", "title", BoxIcon::Exclamation, BoxButtons::Ok);
+    EXPECT_TRUE(bBoxActive);
+  }
+}
+
+/// A box that hung on a minimised window would be minimised with it.
+TEST_F(Window, ABoxOfAMinimisedOneStandsAlone) {
+  Show();
+  frmGlidetrak.WindowState = stateMinimised;
+  QTimer::singleShot(0, MainWindow(), [&] {
+    EXPECT_EQ(QApplication::activeModalWidget()->parentWidget(), nullptr);
+    QApplication::activeModalWidget()->close();
+  });
+  ViewDesktop().ShowBox("text", "title", BoxIcon::Exclamation, BoxButtons::Ok);
+}
+
+TEST_F(Window, AMaximisedOneKeepsItsNormalSize) {
+  frmGlidetrak.Width = 15000;
+  frmGlidetrak.Height = 10500;
+  frmGlidetrak.Left = 300;
+  frmGlidetrak.Top = 450;
+  frmGlidetrak.WindowState = stateMaximised;
+  Show();
+  Settle();
+  EXPECT_TRUE(MainWindow()->isMaximized());
+  const auto normal = ViewDesktop().NormalRect();
+  ASSERT_TRUE(normal.has_value());
+  EXPECT_EQ(MainWindow()->normalGeometry(), QRect(20, 30, 1000, 700));
+}
+
 }  // namespace
 }  // namespace glidetrak
