@@ -1,11 +1,14 @@
-// Figures of the real window with the bench rig: window_bench loop|tick|emergency|idle. Needs a
-// display; run it through benchmarks/run, which brings one along.
+// Figures of the real window with the bench rig: window_bench loop|tick|emergency|idle|open. Needs
+// a display; run it through benchmarks/run, which brings one along.
 
 #include <sys/resource.h>
 
 #include <QApplication>
 #include <QElapsedTimer>
+#include <QFile>
 #include <QMouseEvent>
+#include <QPlainTextEdit>
+#include <QTemporaryDir>
 #include <QTimer>
 #include <QWidget>
 #include <algorithm>
@@ -17,6 +20,7 @@
 #include "form/frmGlidetrak.h"
 #include "language/RunControl.h"
 #include "platform/linux/LinuxMachine.h"
+#include "programs/ProgramFiles.h"
 #include "shell/Events.h"
 #include "shell/StartUp.h"
 #include "view/View.h"
@@ -171,11 +175,57 @@ void MeasureIdle() {
               bLinkUp ? "up" : "down");
 }
 
+/// The longest time that the event loop was away while the editor took the text in.
+double LongestPause() {
+  auto* pEditor = qobject_cast<QPlainTextEdit*>(FindWidget("txtProgram"));
+  double fLongest = 0;
+  QElapsedTimer clock;
+  QTimer timer;
+  QEventLoop loop;
+  QObject::connect(&timer, &QTimer::timeout, [&] {
+    fLongest = std::max(fLongest, static_cast<double>(clock.nsecsElapsed()) * 1e-6);
+    clock.start();
+    if (!pEditor->isReadOnly()) loop.quit();
+  });
+  clock.start();
+  timer.start(0);
+  loop.exec();
+  return fLongest;
+}
+
+void MeasureOpening(const char* sWhat, const QByteArray& program) {
+  const QTemporaryDir folder;
+  const QString sPath = machine.StationPath(folder.filePath("BENCH.GTP"));
+  machine.WriteFile(sPath, program);
+  QElapsedTimer clock;
+  clock.start();
+  machine.ReadFile(sPath);
+  const double fRead = static_cast<double>(clock.nsecsElapsed()) * 1e-6;
+  clock.start();
+  bool bSuccess = false;
+  LoadProgramFile(sPath, bSuccess);
+  const double fLoad = static_cast<double>(clock.nsecsElapsed()) * 1e-6;
+  const double fPause = LongestPause();
+  std::printf(
+      "open: %s, %.1f ms of which reading %.1f ms; complete in the editor after %.1f ms, longest "
+      "pause on the way %.1f ms\n",
+      bSuccess ? sWhat : "FAILED", fLoad, fRead, static_cast<double>(clock.nsecsElapsed()) * 1e-6,
+      fPause);
+}
+
+void MeasureOpen() {
+  if (iControlMode == modeManual) cmdProgram.Click();
+  MeasureOpening("the largest program", QByteArray("A=1\r\n").repeated(6553).left(32764));
+  MeasureOpening(
+      "100 MB", QByteArray("LET A=A+1: a line of forty characters\r\n").repeated(100'000'000 / 39));
+}
+
 void Measure(const QString& sWhat) {
   if (sWhat == "loop") MeasureLoop();
   if (sWhat == "tick") MeasureTick();
   if (sWhat == "emergency") MeasureEmergency();
   if (sWhat == "idle") MeasureIdle();
+  if (sWhat == "open") MeasureOpen();
 }
 
 }  // namespace

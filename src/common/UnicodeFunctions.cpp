@@ -57,9 +57,13 @@ QChar CharFromCode(int iCode) {
 }
 
 QString FromCodePage(const QByteArray& bytes) {
+  std::array<QChar, 256> aCharacters;
+  for (int iCode = 0; iCode < 256; ++iCode) {
+    aCharacters[static_cast<size_t>(iCode)] = CharFromCode(iCode);
+  }
   QString sText(bytes.size(), Qt::Uninitialized);
   std::transform(bytes.begin(), bytes.end(), sText.begin(),
-                 [](char c) { return CharFromCode(static_cast<unsigned char>(c)); });
+                 [&](char c) { return aCharacters[static_cast<unsigned char>(c)]; });
   return sText;
 }
 

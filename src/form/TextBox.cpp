@@ -16,9 +16,8 @@ void TextBox::SetText(const QString& sText) {
 const std::vector<int>& TextBox::LineStarts() const {
   if (!m_aLineStarts.empty()) return m_aLineStarts;
   m_aLineStarts.push_back(0);
-  const QStringView lineEnd = u"\r\n";
-  for (qsizetype i = m_sText.indexOf(lineEnd); i >= 0; i = m_sText.indexOf(lineEnd, i + 2)) {
-    m_aLineStarts.push_back(static_cast<int>(i) + 2);
+  for (qsizetype i = m_sText.indexOf(u'\n'); i >= 0; i = m_sText.indexOf(u'\n', i + 1)) {
+    if (i > 0 && m_sText[i - 1] == u'\r') m_aLineStarts.push_back(static_cast<int>(i) + 1);
   }
   return m_aLineStarts;
 }
