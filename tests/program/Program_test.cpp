@@ -1,7 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <QDir>
-#include <QFile>
 #include <csignal>
 
 #include "RunningStation.h"
@@ -10,12 +8,7 @@ namespace glidetrak {
 
 namespace {
 
-QByteArray ReadWhole(const QString& sPath) {
-  QFile file(sPath);
-  return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(no such file)");
-}
-
-const QByteArray kDrive = "POWER 8\r\nLABEL AGAIN\r\nGOTO AGAIN\r\n";
+const QByteArray driveText = "POWER 8\r\nLABEL AGAIN\r\nGOTO AGAIN\r\n";
 
 void ChooseRun(RunningStation& station) {
   station.Click(placeProgram);
@@ -33,7 +26,7 @@ TEST(Program, OpensAtItsSmallestSizeInTheCornerOnACleanMachine) {
 
 TEST(Program, RunsTheProgramOfTheCommandLineOnTheRigAndStops) {
   RunningStation station;
-  ASSERT_TRUE(station.Start({station.WriteProgram("drive.gtp", kDrive)}));
+  ASSERT_TRUE(station.Start({station.WriteProgram("drive.gtp", driveText)}));
   EXPECT_TRUE(station.HasWindow("DRIVE.GTP : Glidetrak Control"));
   EXPECT_TRUE(station.RigShows("power 0"));
   ChooseRun(station);
@@ -45,7 +38,7 @@ TEST(Program, RunsTheProgramOfTheCommandLineOnTheRigAndStops) {
 
 TEST(Program, SpaceStopsAProgramWhateverHasTheFocus) {
   RunningStation station;
-  ASSERT_TRUE(station.Start({station.WriteProgram("drive.gtp", kDrive)}));
+  ASSERT_TRUE(station.Start({station.WriteProgram("drive.gtp", driveText)}));
   ChooseRun(station);
   ASSERT_TRUE(station.RigShows("power 8"));
   station.Key("space");
@@ -106,7 +99,7 @@ TEST(Program, ATypedProgramIsSavedUnderANewName) {
   station.Picture("saving");
   station.Key("Return");
   EXPECT_TRUE(station.HasWindow("MINE.GTP : Glidetrak Control"));
-  EXPECT_EQ(ReadWhole(station.Folder() + "/mine.GTP"), "PRINT \"A\"\r\nBEEP");
+  EXPECT_EQ(station.Read("mine.GTP"), "PRINT \"A\"\r\nBEEP");
 }
 
 TEST(Program, ClosingAsksAndKeepsTheWindowsPlace) {
@@ -118,7 +111,7 @@ TEST(Program, ClosingAsksAndKeepsTheWindowsPlace) {
   station.Picture("closing");
   station.Key("Return");
   ASSERT_TRUE(station.WaitForEnd());
-  const QByteArray settings = ReadWhole(station.Folder() + "/machine/Torvane/Glidetrak.conf");
+  const QByteArray settings = station.Read("machine/Torvane/Glidetrak.conf");
   EXPECT_TRUE(settings.contains("Width=14400")) << settings.toStdString();
   EXPECT_TRUE(settings.contains("Left=0")) << settings.toStdString();
 }
@@ -158,8 +151,7 @@ TEST(Program, SpeaksSpanishWhenTold) {
 
 TEST(Program, APathMayHoldBlanksAndSwitchesAndAnotherCase) {
   RunningStation station;
-  QDir(station.Folder()).mkpath("H/My lessons");
-  station.WriteProgram("H/My lessons/First One.gtp", kDrive);
+  station.WriteProgram("H/My lessons/First One.gtp", driveText);
   ASSERT_TRUE(station.Start({"H/My lessons/First One.gtp"}));
   EXPECT_TRUE(station.HasWindow("FIRST ONE.GTP : Glidetrak Control"));
   ChooseRun(station);
@@ -168,7 +160,7 @@ TEST(Program, APathMayHoldBlanksAndSwitchesAndAnotherCase) {
 
 TEST(Program, ATerminationSignalEndsItInOrder) {
   RunningStation station;
-  ASSERT_TRUE(station.Start({station.WriteProgram("drive.gtp", kDrive)}));
+  ASSERT_TRUE(station.Start({station.WriteProgram("drive.gtp", driveText)}));
   ChooseRun(station);
   ASSERT_TRUE(station.RigShows("power 8"));
   kill(static_cast<pid_t>(station.Pid()), SIGTERM);

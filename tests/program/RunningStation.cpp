@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QFileInfo>
 #include <QThread>
 
 namespace glidetrak {
@@ -22,6 +23,11 @@ bool WaitUntil(Condition condition) {
     Wait(50);
   }
   return false;
+}
+
+QByteArray ReadWhole(const QString& sPath) {
+  QFile file(sPath);
+  return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(no such file)");
 }
 
 }  // namespace
@@ -58,13 +64,24 @@ bool RunningStation::WaitForDisplay() {
   return true;
 }
 
-bool RunningStation::Start(const QStringList& aArguments) {
+bool RunningStation::Launch(const QStringList& aArguments) {
   m_station.setProcessEnvironment(m_environment);
   m_station.setWorkingDirectory(Folder());
   m_station.start(GLIDETRAK_STATION, aArguments);
-  if (!m_station.waitForStarted() || !HasWindow(sMainTitle)) return false;
+  return m_station.waitForStarted() && HasWindow(sMainTitle);
+}
+
+bool RunningStation::Start(const QStringList& aArguments) {
+  if (!Launch(aArguments)) return false;
   Wait(iStartupBox);
   return IsRunning();
+}
+
+bool RunningStation::StartWithChanges() {
+  if (!Start({WriteProgram("first.gtp", firstText)})) return false;
+  Click(placeProgram);
+  TypeAtTop("BEEP\n");
+  return true;
 }
 
 bool RunningStation::StartSecondCopy(QProcess& process) {
@@ -118,15 +135,73 @@ void RunningStation::Type(const QString& sText) {
   }
 }
 
-void RunningStation::CloseWindow() {
-  const QString sWindow =
-      Output("xdotool", {"search", "--onlyvisible", "--name", sMainTitle}).section(u'\n', 0, 0);
-  Output("xdotool", {"windowclose", sWindow});
+void RunningStation::ChooseFileEntry(FileEntry entry, const QString& sMenuKeys) {
+  Click(placeRigPicture);
+  Key(sMenuKeys);
+  for (int i = 0; i < entry; ++i) Key("Down");
+  Key("Return");
+}
+
+void RunningStation::AskToLeave() {
+  Click(placeRigPicture);
+  Key("alt+f");
+  Key("x");
+}
+
+void RunningStation::AnswerYes() {
+  Key("Return");
+}
+
+void RunningStation::AnswerNo() {
+  Key("Right");
+  Key("Return");
+}
+
+void RunningStation::GiveName(const QString& sName) {
+  Key("ctrl+a");
+  Type(sName);
+  Key("Return");
+}
+
+QByteArray RunningStation::SaveText(FileEntry entry, const QString& sName) {
+  ChooseFileEntry(entry);
+  if (!HasWindow("^Save Program$")) return "(no dialog)";
+  GiveName(Folder() + '/' + sName);
+  if (!HasNoWindow("^Save Program$")) return "(the dialog stays)";
+  return Read(sName);
+}
+
+void RunningStation::TypeAtTop(const QString& sText) {
+  Click(placeEditor);
+  Key("ctrl+Home");
+  Type(sText);
+}
+
+QString RunningStation::MainWindow() {
+  return Output("xdotool", {"search", "--onlyvisible", "--name", sMainTitle}).section(u'\n', 0, 0);
+}
+
+void RunningStation::MoveWindow(Place corner) {
+  Output("xdotool",
+         {"windowmove", MainWindow(), QString::number(corner.iX), QString::number(corner.iY)});
+  Wait(300);
+}
+
+void RunningStation::SizeWindow(int iWidth, int iHeight) {
+  Output("xdotool",
+         {"windowsize", MainWindow(), QString::number(iWidth), QString::number(iHeight)});
+  Wait(300);
 }
 
 bool RunningStation::HasWindow(const QString& sTitle) {
   return WaitUntil([&] {
     return !Output("xdotool", {"search", "--onlyvisible", "--name", sTitle}).isEmpty();
+  });
+}
+
+bool RunningStation::HasNoWindow(const QString& sTitle) {
+  return WaitUntil([&] {
+    return Output("xdotool", {"search", "--onlyvisible", "--name", sTitle}).isEmpty();
   });
 }
 
@@ -142,6 +217,17 @@ QString RunningStation::Geometry(const QString& sTitle) {
     }
   }
   return aValues.join(u' ');
+}
+
+QString RunningStation::ColourAt(Place place) {
+  const QString sPoint = QString("1x1+%1+%2").arg(place.iX).arg(place.iY);
+  const QString sPixel =
+      Output("import", {"-window", "root", "-crop", sPoint, "-depth", "8", "txt:-"});
+  return sPixel.mid(sPixel.lastIndexOf(u'#'), 7);
+}
+
+bool RunningStation::ShowsColour(Place place, const QString& sColour) {
+  return WaitUntil([&] { return ColourAt(place) == sColour; });
 }
 
 QString RunningStation::Rig(const QStringList& aArguments) {
@@ -160,8 +246,17 @@ void RunningStation::Picture(const QString& sName) {
 QString RunningStation::WriteProgram(const QString& sName, const QByteArray& text) {
   const QString sPath = Folder() + '/' + sName;
   QFile file(sPath);
+  QDir().mkpath(QFileInfo(sPath).path());
   if (file.open(QIODevice::WriteOnly)) file.write(text);
   return sPath;
+}
+
+QByteArray RunningStation::Read(const QString& sName) const {
+  return ReadWhole(Folder() + '/' + sName);
+}
+
+QByteArray RunningStation::ReadDelivered(const QString& sName) {
+  return ReadWhole(QFileInfo(GLIDETRAK_STATION).path() + '/' + sName);
 }
 
 }  // namespace glidetrak

@@ -3,10 +3,17 @@
 // The built station on a display of its own, with the bench rig: started, clicked and typed at like
 // a user would, and watched through its windows, its files and the rig's state.
 
+#include <QByteArray>
 #include <QProcess>
 #include <QProcessEnvironment>
 #include <QString>
 #include <QTemporaryDir>
+#include <ostream>
+
+/// A failed comparison of files shows their text.
+inline void PrintTo(const QByteArray& text, std::ostream* pStream) {
+  *pStream << '"' << text.toStdString() << '"';
+}
 
 namespace glidetrak {
 
@@ -16,6 +23,7 @@ struct Place {
   int iY;
 };
 
+constexpr Place placeRigPicture{700, 150};  ///< a click there does nothing
 constexpr Place placeManual{348, 291};
 constexpr Place placeProgram{507, 291};
 constexpr Place placeBackward{531, 460};
@@ -29,6 +37,35 @@ constexpr Place placeShowPresets{898, 313};
 constexpr Place placeCommands{898, 419};
 constexpr Place placeRun{898, 477};
 constexpr Place placeStop{898, 505};
+constexpr Place placeProgramMenu{93, 9};
+constexpr Place placePickerSelect{658, 239};
+constexpr Place placePickerClose{658, 271};
+constexpr Place placeDebugClose{621, 22};
+
+/// The entry of that number, from 1, in the open list of pre-sets.
+constexpr Place PlaceOfPreset(int iNumber) {
+  return {898, 343 + 24 * (iNumber - 1)};
+}
+
+/// A line in view of the picker's list, from 1.
+constexpr Place PlaceOfCommand(int iLine) {
+  return {300, 239 + 13 * (iLine - 1)};
+}
+
+/// The middle of a lamp of the debug panel.
+constexpr Place PlaceOfInputLamp(int iBit) {
+  return {307, 53 + iBit * 135 / 7};
+}
+constexpr Place PlaceOfOutputLamp(int iBit) {
+  return {591, 53 + iBit * 135 / 7};
+}
+
+/// first.gtp as StartWithChanges writes it, and with the changes.
+inline const QByteArray firstText = "HALT\r\n";
+inline const QByteArray firstChanged = "BEEP\r\nHALT\r\n";
+
+/// The entries of the File menu.
+enum FileEntry { entryNew, entryOpen, entrySave, entrySaveAs };
 
 class RunningStation {
  public:
@@ -36,9 +73,13 @@ class RunningStation {
   RunningStation();
   ~RunningStation();
 
-  /// Starts the station and waits until its start-up box has gone. False when it did not come up.
+  /// Starts the station, up to its window; the start-up box comes next. False without a window.
+  bool Launch(const QStringList& aArguments = {});
+  /// The same, up to where the start-up box has gone.
   bool Start(const QStringList& aArguments = {});
-  /// Starts another copy in the same session.
+  /// Starts with first.gtp and types changes that are not saved.
+  bool StartWithChanges();
+  /// Starts another copy for the same user.
   bool StartSecondCopy(QProcess& process);
 
   bool IsRunning() const { return m_station.state() == QProcess::Running; }
@@ -55,13 +96,33 @@ class RunningStation {
   /// Keys by their X names, as xdotool takes them.
   void Key(const QString& sKeys);
   void Type(const QString& sText);
-  /// Asks the main window to close, as its close box would.
-  void CloseWindow();
+  /// An entry of the File menu, which opens with its first entry lit. The window is clicked first:
+  /// without a window manager nothing else gives it the keys again after a dialog.
+  void ChooseFileEntry(FileEntry entry, const QString& sMenuKeys = "alt+f");
+  /// Exit of the File menu.
+  void AskToLeave();
+  void AnswerYes();
+  void AnswerNo();
+  /// Gives the file dialog that is open a name in place of the one it offers.
+  void GiveName(const QString& sName);
+  /// Saves under a new name by an entry that asks for one; what stands in the file then, or a word
+  /// about what went wrong.
+  QByteArray SaveText(FileEntry entry, const QString& sName);
+  /// Types in front of the program's text.
+  void TypeAtTop(const QString& sText);
+  void MoveWindow(Place corner);
+  void SizeWindow(int iWidth, int iHeight);
 
-  /// Waits for a visible window of that title; false after five seconds.
+  /// Waits for a visible window whose title holds that; false after five seconds.
   bool HasWindow(const QString& sTitle);
+  /// Waits for the last such window to go; false after five seconds.
+  bool HasNoWindow(const QString& sTitle);
   /// "x y width height" of the window of that title.
   QString Geometry(const QString& sTitle);
+  /// The colour of that point of the screen, "#RRGGBB".
+  QString ColourAt(Place place);
+  /// Waits until that point has that colour; false after five seconds.
+  bool ShowsColour(Place place, const QString& sColour);
 
   /// Waits until the rig's state holds that line; false after five seconds.
   bool RigShows(const QString& sLine);
@@ -71,11 +132,17 @@ class RunningStation {
   void Picture(const QString& sName);
 
   QString Folder() const { return m_folder.path(); }
+  /// Writes a file into the test's folder and tells its path.
   QString WriteProgram(const QString& sName, const QByteArray& text);
+  /// What stands in a file of the test's folder, or a word that it is not there.
+  QByteArray Read(const QString& sName) const;
+  /// What stands in a file that comes with the station.
+  static QByteArray ReadDelivered(const QString& sName);
   QProcessEnvironment Environment() const { return m_environment; }
 
  private:
   QString Output(const QString& sProgram, const QStringList& aArguments);
+  QString MainWindow();
   bool WaitForDisplay();
 
   QTemporaryDir m_folder;
