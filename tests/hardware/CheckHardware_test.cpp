@@ -5,8 +5,8 @@
 
 #include "common/SharedState.h"
 #include "hardware/AdapterLayer.h"
-#include "hardware/NamedRow.h"
 #include "hardware/RigStation.h"
+#include "station/NamedRow.h"
 
 namespace glidetrak {
 namespace {

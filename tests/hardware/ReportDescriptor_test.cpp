@@ -7,8 +7,8 @@
 #include <random>
 #include <string>
 
-#include "hardware/NamedRow.h"
 #include "hardware/RigStation.h"
+#include "station/NamedRow.h"
 
 namespace glidetrak {
 namespace {

@@ -4,18 +4,10 @@
 // start, do and ask.
 
 #include <QStringList>
-#include <ostream>
 #include <vector>
 
 #include "hardware/WatchedPlatform.h"
-
-inline void PrintTo(const QString& sText, std::ostream* pStream) {
-  *pStream << '"' << sText.toStdString() << '"';
-}
-
-inline void PrintTo(const QByteArray& bytes, std::ostream* pStream) {
-  *pStream << '"' << bytes.toStdString() << "\" (" << bytes.toHex(' ').toStdString() << ')';
-}
+#include "station/Print.h"
 
 namespace glidetrak {
 

@@ -5,9 +5,9 @@
 
 #include <string_view>
 
-#include "hardware/NamedRow.h"
 #include "hardware/RigStation.h"
 #include "hardware/clsUSBHID.h"
+#include "station/NamedRow.h"
 
 namespace glidetrak {
 namespace {

@@ -1,204 +1,100 @@
-// Start-up: what Form_Load leaves behind.
+// The state in which start-up leaves the station.
 
-#include "shell/StartUp.h"
-
-#include <gtest/gtest.h>
-
-#include "authoring/Document.h"
-#include "common/SharedState.h"
-#include "common/UserPaths.h"
-#include "form/frmAbout.h"
-#include "form/frmGlidetrak.h"
-#include "hardware/AdapterLayer.h"
-#include "language/CommandNames.h"
-#include "language/CompilePass.h"
+#include "programs/ProgramFiles.h"
 #include "shell/CommandLine.h"
-#include "station/Station.h"
-#include "track/OutputImage.h"
+#include "shell/StartUpTest.h"
 
 namespace glidetrak {
+
 namespace {
 
-class StartUp : public ::testing::Test {
- protected:
-  /// A configuration with two pre-sets beside the executable.
-  void AddPresets() {
-    station.platform.AddFile("\\STATION\\TV_GLIDETRAK.INI",
-                             "[MiscSettings]\r\nHW_EXAMPLES=2\r\n"
-                             "[HW_PRESET1]\r\nFILENAME=ONE.GTP\r\nTITLE=One\r\n");
-    station.platform.AddFile("\\STATION\\Examples\\ONE.GTP", "BEEP : one");
-  }
-
-  Station station;
-};
-
-TEST_F(StartUp, LoadsTheFileOfTheCommandLine) {
-  AddPresets();
-  station.platform.AddFile("C:\\WORK\\MY PLAN.GTP", "PRINT \"hi\"\r\n");
-  station.Start(Link::Down, "\"C:\\Work\\my plan.gtp\"");
-  EXPECT_EQ(txtProgram.Text(), "PRINT \"hi\"\r\n");
-  EXPECT_EQ(sCommandLineFile, "C:\\WORK\\MY PLAN.GTP");
-  EXPECT_EQ(sProgramFile, "C:\\WORK\\MY PLAN.GTP");
-  EXPECT_EQ(frmGlidetrak.Caption, "MY PLAN.GTP : Glidetrak Control");
-}
-
-const char* const FilesDropped[] = {"", "C:\\NOWHERE.GTP", "C:\\FOLDER.GTP", "C:\\PLAN.TXT"};
-
-TEST_F(StartUp, TakesTheFirstPresetWithoutSuchAFile) {
-  for (const char* sCommandLine : FilesDropped) {
-    Station other;
-    other.platform.AddFile("\\STATION\\TV_GLIDETRAK.INI", "[MiscSettings]\nHW_EXAMPLES=1\n");
-    other.platform.AddFile("\\STATION\\Examples\\EXAMPLE1.GTP", "BEEP : one");
-    other.platform.AddFile("C:\\FOLDER.GTP", "", attrFolder);
-    other.platform.AddFile("C:\\PLAN.TXT", "HALT");
-    other.Start(Link::Down, sCommandLine);
-    EXPECT_EQ(txtProgram.Text(), "BEEP : one") << sCommandLine;
-    EXPECT_EQ(sProgramFile, "") << sCommandLine;
-    EXPECT_EQ(frmGlidetrak.Caption, "Glidetrak Control") << sCommandLine;
-  }
-}
-
-TEST_F(StartUp, StartsEmptyWithoutAWordWhenTheFileCannotBeRead) {
-  AddPresets();
-  station.platform.AddFile("C:\\PLAN.GTP", "HALT");
-  station.platform.aUnreadable.insert("C:\\PLAN.GTP");
-  QStringList aBoxes;
-  station.platform.OnBox = [&](const VirtualBox& box) { aBoxes.append(box.sText); };
-  station.Start(Link::Parallel, "C:\\PLAN.GTP");
-  EXPECT_EQ(txtProgram.Text(), "");
-  EXPECT_EQ(aBoxes, QStringList());
-}
-
-TEST_F(StartUp, StandsInManualModeWithTheEditorReadyBehindIt) {
-  station.Start();
-  EXPECT_EQ(iControlMode, modeManual);
-  EXPECT_FALSE(pnlProgramBox.Visible);
-  EXPECT_TRUE(txtProgram.Visible);
-  EXPECT_TRUE(txtFocusGrab.Visible);
-  EXPECT_FALSE(cmbExamples.Visible);
-}
-
-TEST_F(StartUp, CountsTheLoadedTextAsNoChange) {
-  station.platform.AddFile("C:\\PLAN.GTP", "HALT");
-  bProgramDirty = true;
-  station.Start(Link::Down, "C:\\PLAN.GTP");
-  EXPECT_FALSE(bProgramDirty);
+TEST_F(StartUpTest, LeavesAnIdleStationInManualMode) {
+  Start();
   EXPECT_FALSE(bLoading);
-  EXPECT_TRUE(bNeedCompile);
-  EXPECT_FALSE(MNUSAVEPROG.Enabled);
-  EXPECT_FALSE(MNUSAVEPROGAS.Enabled);
-}
-
-TEST_F(StartUp, TakesTheFirstEditForAChange) {
-  station.Start();
-  txtProgram.UserEdit(0, 0, "X");
-  EXPECT_TRUE(bProgramDirty);
-  EXPECT_TRUE(MNUSAVEPROG.Enabled);
-  EXPECT_TRUE(MNUSAVEPROGAS.Enabled);
-}
-
-TEST_F(StartUp, SetsForwardAndPowerZero) {
-  station.Start(Link::Parallel);
+  EXPECT_FALSE(bProgramDirty);
+  EXPECT_FALSE(bProgramRunning);
+  EXPECT_EQ(iControlMode, modeManual);
+  EXPECT_EQ(lInputImage, 0);
   EXPECT_EQ(lOutputImage, 16);
-  EXPECT_EQ(iDirection, 1);
-  EXPECT_EQ(iPower, 0);
-  EXPECT_EQ(imgLever.Top, 4760);
+  EXPECT_TRUE(tmrSystem.Enabled);
+  EXPECT_EQ(tmrSystem.Interval, 25);
+  EXPECT_EQ(screen.MousePointer, ptrDefault);
+  EXPECT_EQ(frmGlidetrak.Caption.value(), "Glidetrak Control");
 }
 
-TEST_F(StartUp, ShowsTheLinkAndRetriesOneThatIsDown) {
-  station.Start(Link::Down);
-  EXPECT_EQ(lblHWState.Caption, "Glidetrak interface not detected");
+TEST_F(StartUpTest, FolderOfTheExecutableEndsInABackslash) {
+  for (const char* sFolder : {"\\STATION", "\\STATION\\"}) {
+    platform.sExecutableFolder = sFolder;
+    Start();
+    EXPECT_EQ(sAppPath, "\\STATION\\");
+    EXPECT_EQ(platform.sCurrentFolder, "\\STATION\\");
+  }
+}
+
+TEST_F(StartUpTest, ShowsTheLinkWithAndWithoutAnAdapter) {
+  Start();
+  EXPECT_EQ(lblHWState.Caption.value(), "Glidetrak interface not detected");
   EXPECT_TRUE(tmrReconnect.Enabled);
-  Station other;
-  other.Start(Link::Parallel);
-  EXPECT_EQ(lblHWState.Caption, "Glidetrak interface detected");
+}
+
+TEST_F(StartUpTest, ShowsAFoundAdapterAndDoesNotRetry) {
+  platform.rig.AttachUsb();
+  Start();
+  EXPECT_EQ(lblHWState.Caption.value(), "Glidetrak interface detected");
   EXPECT_FALSE(tmrReconnect.Enabled);
 }
 
-TEST_F(StartUp, BuildsTheNamesAndStartsTheTick) {
-  station.Start();
-  EXPECT_EQ(CommandNameTable[0].sName, "AIRPORT_CALL");
-  EXPECT_TRUE(tmrSystem.Enabled);
-  EXPECT_EQ(tmrSystem.Interval, 25);
+TEST_F(StartUpTest, ReadsTheSimulationFileAndTheDocumentsFolder) {
+  Start();
+  EXPECT_EQ(sSimulationFile, "glidetrak.swf");
+  EXPECT_EQ(sUserFolder, "\\DOCUMENTS\\");
+  platform.AddFile("\\STATION\\TV_GLIDETRAK.INI", "[MiscSettings]\r\nSWFILE=other\r\n");
+  Start();
+  EXPECT_EQ(sSimulationFile, "other");
 }
 
-TEST_F(StartUp, ShowsBothFormsAndTheDefaultPointer) {
-  station.Start();
-  EXPECT_TRUE(frmGlidetrak.Visible);
-  EXPECT_TRUE(frmAbout.Visible);
+class CommandLineFile : public StartUpTest {
+ protected:
+  void SetUp() override {
+    platform.AddFile("\\STATION\\TV_GLIDETRAK.INI", "[MiscSettings]\r\nHW_EXAMPLES=1\r\n");
+    platform.AddFile("\\STATION\\Examples\\EXAMPLE1.GTP", "PRESET");
+    platform.AddFile("\\H\\Trip.gtp", "HALT");
+  }
+};
+
+TEST_F(CommandLineFile, StandsInTheEditorUnchanged) {
+  Start("\"\\H\\Trip.gtp\"");
+  EXPECT_EQ(txtProgram.Text(), "HALT");
+  EXPECT_EQ(sProgramFile, "\\H\\TRIP.GTP");
+  EXPECT_EQ(frmGlidetrak.Caption.value(), "TRIP.GTP : Glidetrak Control");
+  EXPECT_FALSE(bProgramDirty);
+  EXPECT_EQ(iControlMode, modeManual);
+}
+
+TEST_F(CommandLineFile, GivesWayToTheFirstPresetWhenItIsMissing) {
+  for (const char* sText : {"\\H\\NOTHING.GTP", "\\H\\TRIP.TXT", "\\H\\TRIP"}) {
+    Start(sText);
+    EXPECT_EQ(txtProgram.Text(), "PRESET") << sText;
+    EXPECT_EQ(sProgramFile, "") << sText;
+  }
+  EXPECT_TRUE(platform.aBoxes.empty());
+}
+
+TEST_F(CommandLineFile, ThatIsAFolderGivesWayToo) {
+  platform.AddFile("\\H\\F.GTP", "", attrFolder);
+  Start("\\H\\F.GTP");
+  EXPECT_EQ(txtProgram.Text(), "PRESET");
+}
+
+TEST_F(CommandLineFile, ThatCannotBeReadLeavesTheEditorEmptyInSilence) {
+  platform.aUnreadable = {"\\H\\TRIP.GTP"};
+  Start("\\H\\Trip.gtp");
+  EXPECT_EQ(txtProgram.Text(), "");
+  EXPECT_TRUE(platform.aBoxes.empty());
   EXPECT_EQ(screen.MousePointer, ptrDefault);
-}
-
-TEST_F(StartUp, HidesTheFormBehindTheHourglassWhileItLoads) {
-  frmGlidetrak.Visible = true;
-  bool bHidden = false;
-  int iPointer = ptrDefault;
-  const auto watch = imgLever.Top.addNotifier([&] {
-    bHidden = !frmGlidetrak.Visible;
-    iPointer = screen.MousePointer;
-  });
-  station.Start();
-  EXPECT_TRUE(bHidden);
-  EXPECT_EQ(iPointer, ptrHourglass);
-}
-
-TEST_F(StartUp, GivesTheHandToTheFormAndSixControls) {
-  station.Start();
-  for (const Control* pControl :
-       std::initializer_list<const Control*>{&frmGlidetrak, &imgLever, &picTogTimer, &picTogImpact,
-                                             &btnEmergency, &btnRstStop, &btnTmrReset}) {
-    EXPECT_EQ(pControl->MouseIcon, PictureId::HandCursor);
-  }
-}
-
-TEST_F(StartUp, EndsASecondCopyBehindAMessage) {
-  station.platform.bFirstCopy = false;
-  EXPECT_THROW(station.Start(Link::Parallel), ProcessEnded);
-  EXPECT_EQ(station.BoxTexts(), QStringList("This Application is already running."));
-  EXPECT_EQ(station.platform.aBoxes[0].sTitle, "Glidetrak Control");
-  EXPECT_EQ(station.platform.iOtherCopyActivated, 1);
-  EXPECT_EQ(station.WrittenBytes(), std::vector<qint32>{0});
-  EXPECT_FALSE(frmGlidetrak.Visible);
-}
-
-/// The language of the system, the command line, and what comes of them; the Spanish folder holds a
-/// configuration.
-struct LanguageRow {
-  int iSystem;
-  const char* sCommandLine;
-  const char* sIndex;
-  const char* sFolder;
-  const char* sTrace;  ///< caption of Trace
-};
-
-const LanguageRow LanguageRows[] = {
-    {1033, "", "0", "", "Trace"},
-    {2057, "", "1", "", "Trace"},
-    {3082, "", "2", "Language\\0C0A\\", "Ej. secuencial"},
-    {1036, "", "0", "", "Trace"},
-    {1087, "", "0", "", "Trace"},
-    {1033, "/LC=0C0A", "2", "Language\\0C0A\\", "Ej. secuencial"},
-    {1033, "/lc 0c0a", "2", "Language\\0C0A\\", "Ej. secuencial"},
-    {1033, "/LANG='2'", "2", "Language\\0C0A\\", "Trace"},
-    {1033, "/LANG='2' /LC=0C0A", "2", "Language\\0C0A\\", "Trace"},
-    {1033, "/LC=040C", "0", "", "Trace"},
-    {3082, "/LANG='6'", "6", "", "Ej. secuencial"},
-    {3082, "/LC=0409", "0", "", "Trace"},
-};
-
-TEST(StartLanguage, PicksTextsAndFolderEachInItsWay) {
-  for (const LanguageRow& row : LanguageRows) {
-    SCOPED_TRACE(row.sCommandLine);
-    iUILanguage = 0;
-    Station station;
-    station.platform.iUserLanguage = row.iSystem;
-    station.platform.AddFile("\\STATION\\Language\\0C0A\\TV_GLIDETRAK.INI", "");
-    station.Start(Link::Down, row.sCommandLine);
-    EXPECT_EQ(sLanguageIndex, row.sIndex);
-    EXPECT_EQ(sLanguageFolder, row.sFolder);
-    EXPECT_EQ(cmdSingleStep.Caption, row.sTrace);
-  }
+  EXPECT_TRUE(frmGlidetrak.Visible);
 }
 
 }  // namespace
+
 }  // namespace glidetrak

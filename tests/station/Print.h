@@ -11,5 +11,5 @@ inline void PrintTo(const QString& sText, std::ostream* pStream) {
 }
 
 inline void PrintTo(const QByteArray& bytes, std::ostream* pStream) {
-  *pStream << '"' << bytes.toStdString() << '"';
+  *pStream << '"' << bytes.toStdString() << "\" (" << bytes.toHex(' ').toStdString() << ')';
 }

@@ -1,0 +1,83 @@
+// Opening and closing the panel.
+
+#include "authoring/PickerTest.h"
+
+namespace glidetrak {
+
+namespace {
+
+const std::initializer_list<Control*> aLocked{
+    &btnStopProg, &cmdRunProgram, &cmdSingleStep, &cmdProgCommands, &cmbExamples, &cmdShowExamples,
+    &lblExamples, &txtProgram,    &MNUMAIN,       &MNUPROGRAMOPT,   &MNUHELP};
+
+TEST_F(PickerTest, PanelIsClosedAtStart) {
+  EXPECT_FALSE(pnlCommandSel.Visible);
+}
+
+TEST_F(PickerTest, OpensFromTheButtonAndFromTheMenu) {
+  for (const char* sName : {"cmdProgCommands", "MNUCommands"}) {
+    station.Click(sName);
+    EXPECT_TRUE(pnlCommandSel.Visible) << sName;
+    EXPECT_TRUE(pnlCommandSel.Enabled) << sName;
+    CloseCommandPicker();
+  }
+}
+
+TEST_F(PickerTest, LocksTheProgramControlsWhileItIsOpen) {
+  ShowCommandPicker();
+  for (const Control* pControl : aLocked) EXPECT_FALSE(pControl->Enabled);
+  CloseCommandPicker();
+  for (const Control* pControl : aLocked) EXPECT_TRUE(pControl->Enabled);
+}
+
+TEST_F(PickerTest, CannotBeOpenedTwiceAndNoProgramStarts) {
+  station.SetProgram("LET A=5");
+  ShowCommandPicker();
+  lstProgCommands.ListIndex = 4;
+  station.Click("cmdProgCommands");
+  station.Click("MNUCommands");
+  station.Click("cmdRunProgram");
+  station.Click("MNURUN");
+  EXPECT_EQ(lstProgCommands.ListIndex, 4);
+  EXPECT_TRUE(LineTable.empty());
+}
+
+TEST_F(PickerTest, BeginsWithTheFirstEntryWhateverWasChosenLast) {
+  bool bFocus = false;
+  lstProgCommands.SetFocus = [&] { bFocus = true; };
+  Mark("WAIT");
+  CloseCommandPicker();
+  ShowCommandPicker();
+  EXPECT_EQ(lstProgCommands.ListIndex, 0);
+  EXPECT_EQ(lblHELPFormat.Caption.value(), "AIRPORT_CALL");
+  EXPECT_TRUE(bFocus);
+}
+
+TEST_F(PickerTest, DoesNotOpenWhileAProgramRuns) {
+  bProgramRunning = true;
+  ShowCommandPicker();
+  EXPECT_FALSE(pnlCommandSel.Visible);
+  for (const Control* pControl : aLocked) EXPECT_TRUE(pControl->Enabled);
+}
+
+TEST_F(PickerTest, ClosesWithoutATrace) {
+  for (const char* sName : {"btnCloseComSel", "imgAddCmdClose"}) {
+    ShowCommandPicker();
+    station.Click(sName);
+    EXPECT_FALSE(pnlCommandSel.Visible) << sName;
+    EXPECT_FALSE(pnlCommandSel.Enabled) << sName;
+    EXPECT_EQ(txtProgram.Text(), "") << sName;
+    EXPECT_FALSE(bProgramDirty) << sName;
+  }
+}
+
+TEST_F(PickerTest, ClosesOverChangesThatAreNotSaved) {
+  txtProgram.UserEdit(0, 0, "X");
+  ShowCommandPicker();
+  station.Click("btnCloseComSel");
+  EXPECT_TRUE(bProgramDirty);
+}
+
+}  // namespace
+
+}  // namespace glidetrak
