@@ -27,7 +27,8 @@ void OfferName(QFileDialog& box, const QString& sName) {
   box.selectFile(offered.fileName());
 }
 
-/// The toolkit's own dialog: the desktop's native one asks before it overwrites.
+/// The toolkit's own dialog: the desktop's native one speaks the desktop's language in place of the
+/// station's, and some ask before they overwrite.
 void Prepare(QFileDialog& box, const FileDialog& dialog) {
   box.setOptions(QFileDialog::DontUseNativeDialog | QFileDialog::DontConfirmOverwrite);
   box.setWindowTitle(dialog.DialogTitle);
