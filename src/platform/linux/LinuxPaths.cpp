@@ -44,7 +44,7 @@ QString LinuxPaths::Native(const QString& sStationPath) {
   QString sAsSpelt = sStationPath;
   sAsSpelt.replace(u'\\', u'/');
   if (QFileInfo::exists(sAsSpelt)) return Remember(sKey, sAsSpelt);
-  const QString sKnown = m_aFound.value(sKey);
+  QString sKnown = m_aFound.value(sKey);
   if (QFileInfo::exists(sKnown)) return sKnown;
   const QString sFound = Lookup(sAsSpelt);
   if (QFileInfo::exists(sFound)) return Remember(sKey, sFound);
