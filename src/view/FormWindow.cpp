@@ -136,7 +136,10 @@ void FormWindow::ObeyState() {
   setWindowState(ToolkitState(m_form.WindowState));
 }
 
+/// A form that was never moved stands at 0, 0: its frame does, as a title bar off the screen could
+/// not be reached. Untold, a window manager would choose a place of its own, and late.
 void FormWindow::ObeyVisible() {
+  if (!testAttribute(Qt::WA_Moved)) move(0, 0);
   setVisible(m_form.Visible);
   if (!m_form.Visible && m_pModalLoop != nullptr) m_pModalLoop->quit();
   if (!m_form.Visible || std::exchange(m_bShown, true)) return;
