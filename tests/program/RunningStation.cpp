@@ -52,6 +52,8 @@ RunningStation::RunningStation() : m_environment(QProcessEnvironment::systemEnvi
 RunningStation::~RunningStation() {
   m_station.kill();
   m_station.waitForFinished();
+  m_windowManager.kill();
+  m_windowManager.waitForFinished();
   m_display.terminate();
   m_display.waitForFinished();
 }
@@ -179,6 +181,27 @@ void RunningStation::TypeAtTop(const QString& sText) {
 
 QString RunningStation::MainWindow() {
   return Output("xdotool", {"search", "--onlyvisible", "--name", sMainTitle}).section(u'\n', 0, 0);
+}
+
+bool RunningStation::StartWindowManager() {
+  m_windowManager.setProcessEnvironment(m_environment);
+  m_windowManager.start("openbox", QStringList());
+  return m_windowManager.waitForStarted() &&
+         WaitUntil([&] { return Output("wmctrl", {"-m"}).contains("Openbox"); });
+}
+
+void RunningStation::PressCloseBox() {
+  Output("wmctrl", {"-c", "Glidetrak"});
+}
+
+void RunningStation::Maximise() {
+  Output("wmctrl", {"-r", "Glidetrak", "-b", "add,maximized_vert,maximized_horz"});
+  Wait(500);
+}
+
+void RunningStation::Minimise() {
+  Output("xdotool", {"windowminimize", MainWindow()});
+  Wait(500);
 }
 
 void RunningStation::MoveWindow(Place corner) {

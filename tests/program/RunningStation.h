@@ -110,6 +110,12 @@ class RunningStation {
   QByteArray SaveText(FileEntry entry, const QString& sName);
   /// Types in front of the program's text.
   void TypeAtTop(const QString& sText);
+  /// Puts a window manager on the display; without one there are no frames and no states.
+  bool StartWindowManager();
+  /// Presses the window's own close box.
+  void PressCloseBox();
+  void Maximise();
+  void Minimise();
   void MoveWindow(Place corner);
   void SizeWindow(int iWidth, int iHeight);
 
@@ -148,6 +154,7 @@ class RunningStation {
   QTemporaryDir m_folder;
   QProcessEnvironment m_environment;
   QProcess m_display;
+  QProcess m_windowManager;
   QProcess m_station;
 };
 
