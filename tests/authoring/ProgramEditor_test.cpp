@@ -1,100 +1,56 @@
-// The program editor's events and the reset of the program's state.
+// The program editor: changes, the double click, the reset.
 
-#include "authoring/ProgramEditor.h"
-
-#include <gtest/gtest.h>
-
-#include "authoring/Document.h"
-#include "common/SharedState.h"
-#include "form/frmGlidetrak.h"
-#include "language/CompilePass.h"
 #include "language/Expressions.h"
 #include "language/Keywords.h"
 #include "language/RunControl.h"
-#include "station/Station.h"
+#include "programfiles/PresetTest.h"
 #include "track/OutputImage.h"
 
 namespace glidetrak {
+
 namespace {
 
-class ProgramEditor : public ::testing::Test {
+class EditorTest : public PresetTest {
  protected:
-  void SetUp() override {
-    station.Start(Link::Parallel);
-    station.EnterProgramMode();
+  void SetUp() override { station.Start(); }
+
+  void Compile(const QString& sText) {
+    txtProgram.SetText(sText);
+    ASSERT_TRUE(CompileProgram());
   }
 
-  Station station;
+  /// The selection after a double click with the caret at that place.
+  std::pair<int, int> DoubleClickAt(int iCaret) {
+    txtProgram.Select(iCaret, 0);
+    txtProgram.DblClick();
+    return {txtProgram.SelStart(), txtProgram.SelLength()};
+  }
+
+  using Stretch = std::pair<int, int>;
 };
 
-TEST_F(ProgramEditor, IsEmptyAfterAReset) {
-  txtProgram.SetText("BEEP");
-  txtProgram.Select(1, 2);
-  ResetProgramState();
-  EXPECT_EQ(txtProgram.Text(), "");
-  EXPECT_EQ(txtProgram.SelStart(), 0);
-  EXPECT_EQ(txtProgram.SelLength(), 0);
-}
-
-TEST_F(ProgramEditor, ForgetsTheRunAtAReset) {
-  lCurrentLine = 5;
-  bEditorHasFocus = true;
-  bProgramRunning = true;
-  bTraceArmed = true;
-  bInIfBlock = true;
-  bIfCondition = true;
-  ResetProgramState();
-  EXPECT_EQ(lCurrentLine, 0);
-  EXPECT_FALSE(bEditorHasFocus);
-  EXPECT_FALSE(bProgramRunning);
-  EXPECT_FALSE(bTraceArmed);
-  EXPECT_FALSE(bInIfBlock);
-  EXPECT_FALSE(bIfCondition);
-}
-
-TEST_F(ProgramEditor, ForgetsTheSavedSelectionAndTheFileAtAReset) {
-  lSavedSelStart = 3;
-  lSavedSelLength = 4;
-  sSavedSelText = "ABCD";
-  sProgramFile = "\\A.GTP";
-  ResetProgramState();
-  EXPECT_EQ(lSavedSelStart, 0);
-  EXPECT_EQ(lSavedSelLength, 0);
-  EXPECT_EQ(sSavedSelText, "");
-  EXPECT_EQ(sProgramFile, "");
-}
-
-TEST_F(ProgramEditor, PutsTheDisplaysBackAtAReset) {
-  pnlMessage.Visible = true;
-  lblAnalogVal.Caption = "9";
-  lblPowerLevel.Caption = "9";
-  ResetProgramState();
-  EXPECT_FALSE(pnlMessage.Visible);
-  EXPECT_EQ(lblAnalogVal.Caption, "0");
-  EXPECT_EQ(lblPowerLevel.Caption, "0");
-}
-
-TEST_F(ProgramEditor, SendsNothingToTheRigAtAReset) {
-  SetDirection(0);
-  station.Forget();
-  ResetProgramState();
-  EXPECT_EQ(iDirection, 1);
-  EXPECT_EQ(lOutputImage, 0);
-  EXPECT_TRUE(station.WrittenBytes().empty());
-}
-
-TEST_F(ProgramEditor, ReadsTheKeywordsAtAReset) {
-  KeywordTable.fill("");
-  ResetProgramState();
-  EXPECT_EQ(Word(Keyword::Print), "PRINT");
-  EXPECT_EQ(Word(Keyword::SoundSensor), "SOUND_SENSOR");
-}
-
-TEST_F(ProgramEditor, TakesTheTextEmptiedByAResetForAChange) {
-  txtProgram.SetText("BEEP");
-  bProgramDirty = false;
-  ResetProgramState();
+TEST_F(EditorTest, ChangeMarksTheProgram) {
+  bNeedCompile = false;
+  Type("halt");
+  EXPECT_TRUE(bNeedCompile);
   EXPECT_TRUE(bProgramDirty);
+  EXPECT_EQ(txtProgram.Text(), "halt");
+}
+
+TEST_F(EditorTest, SecondKeystrokeLeavesTheMenuAsItIs) {
+  Type("H");
+  MNUSAVEPROG.Enabled = false;
+  MNUSAVEPROGAS.Enabled = false;
+  Type("A");
+  EXPECT_FALSE(MNUSAVEPROG.Enabled);
+  EXPECT_FALSE(MNUSAVEPROGAS.Enabled);
+}
+
+TEST_F(EditorTest, ClearingByHandLeavesSaveEnabled) {
+  Type("H");
+  txtProgram.UserEdit(0, 1, "");
+  EXPECT_TRUE(MNUSAVEPROG.Enabled);
+  EXPECT_TRUE(MNUSAVEPROGAS.Enabled);
 }
 
 /// A change of the text in that state, Save and Save As off, and what comes of it.
@@ -113,7 +69,7 @@ const ChangeRow ChangeRows[] = {
     {false, true, false, false, false, false}, {true, true, false, false, false, false},
 };
 
-TEST_F(ProgramEditor, TakesAChangeForOneUnlessAProgramRunsOrStartUpLoads) {
+TEST_F(EditorTest, ChangeCountsUnlessAProgramRunsOrStartUpLoads) {
   for (const ChangeRow& row : ChangeRows) {
     SCOPED_TRACE(row.bRunning * 4 + row.bLoading * 2 + row.bDirtyBefore);
     bNeedCompile = false;
@@ -130,103 +86,130 @@ TEST_F(ProgramEditor, TakesAChangeForOneUnlessAProgramRunsOrStartUpLoads) {
   }
 }
 
-TEST_F(ProgramEditor, LeavesSaveEnabledWhenItIsClearedByHand) {
-  txtProgram.UserEdit(0, 0, "X");
-  txtProgram.UserEdit(0, 1, "");
-  EXPECT_TRUE(MNUSAVEPROG.Enabled);
-  EXPECT_TRUE(MNUSAVEPROGAS.Enabled);
+TEST_F(EditorTest, DoubleClickSelectsTheLineWithoutItsEnd) {
+  Compile("HALT\r\n\r\n  beep now");
+  EXPECT_EQ(DoubleClickAt(0), Stretch(0, 4));
+  EXPECT_EQ(DoubleClickAt(3), Stretch(0, 4));
+  EXPECT_EQ(DoubleClickAt(8), Stretch(8, 10));
+  EXPECT_EQ(DoubleClickAt(17), Stretch(8, 10));
 }
 
-TEST_F(ProgramEditor, LeavesTheTextAsItWasTyped) {
-  txtProgram.UserEdit(0, 0, "print \"Hi\"\r\n");
-  station.Click("cmdRunProgram");
-  EXPECT_EQ(txtProgram.Text(), "print \"Hi\"\r\n");
+TEST_F(EditorTest, DoubleClickSelectsNothingOnABlankLineOrAtALinesEnd) {
+  Compile("HALT\r\n\r\n  beep now");
+  for (const int iCaret : {4, 5, 6, 7, 18}) EXPECT_EQ(DoubleClickAt(iCaret), Stretch(iCaret, 0));
 }
 
-struct FocusRow {
-  int iStart, iLength;  ///< when the focus was lost
-  bool bPutBack;
-};
+TEST_F(EditorTest, DoubleClickBeforeAnyCompileSelectsNothing) {
+  txtProgram.SetText("HALT");
+  EXPECT_EQ(DoubleClickAt(1), Stretch(1, 0));
+}
 
-const FocusRow FocusRows[] = {{2, 3, true}, {0, 3, false}, {2, 0, false}, {0, 0, false}};
+TEST_F(EditorTest, DoubleClickAfterEditsTakesTheLinesOfTheLastCompile) {
+  Compile("HALT\r\nBEEP");
+  Type("XX");
+  EXPECT_EQ(DoubleClickAt(1), Stretch(0, 4));
+  EXPECT_EQ(DoubleClickAt(7), Stretch(6, 4));
+}
 
-TEST_F(ProgramEditor, PutsASelectionBackThatStartsBehindTheFirstCharacter) {
-  txtProgram.SetText("ABCDEFGH");
-  for (const FocusRow& row : FocusRows) {
-    txtProgram.Select(row.iStart, row.iLength);
-    txtProgram.LostFocus();
-    EXPECT_FALSE(bEditorHasFocus);
-    txtProgram.Select(7, 1);
-    txtProgram.GotFocus();
-    EXPECT_TRUE(bEditorHasFocus);
-    EXPECT_EQ(txtProgram.SelStart(), row.bPutBack ? row.iStart : 7) << row.iStart << row.iLength;
-    EXPECT_EQ(txtProgram.SelLength(), row.bPutBack ? row.iLength : 1) << row.iStart;
+TEST_F(EditorTest, DoubleClickDuringARunSelectsNothing) {
+  Compile("HALT");
+  bProgramRunning = true;
+  EXPECT_EQ(DoubleClickAt(1), Stretch(1, 0));
+}
+
+TEST_F(EditorTest, LowerCaseProgramCompilesAndStaysAsTyped) {
+  Compile("  let c = 1");
+  EXPECT_EQ(txtProgram.Text(), "  let c = 1");
+  EXPECT_EQ(LineTable.at(0).sText, "LETC=1");
+}
+
+TEST_F(EditorTest, SpaceDuringARunStopsItAndStaysOutOfTheText) {
+  bProgramRunning = true;
+  int iCharCode = ' ';
+  txtProgram.KeyPress(iCharCode);
+  EXPECT_EQ(iCharCode, 0);
+  EXPECT_FALSE(bProgramRunning);
+  EXPECT_EQ(txtProgram.Text(), "");
+}
+
+TEST_F(EditorTest, KeysPassWhileNoProgramRuns) {
+  for (TextBox* pBox : {&txtProgram, &txtFocusGrab}) {
+    int iKey = ' ';
+    pBox->KeyDown(iKey);
+    pBox->KeyPress(iKey);
+    pBox->KeyUp(iKey);
+    EXPECT_EQ(iKey, ' ');
   }
 }
 
-TEST_F(ProgramEditor, SendsTheFocusOnToTheStopButtonWhileAProgramRuns) {
-  int iFocus = 0;
-  btnStopProg.SetFocus = [&] { ++iFocus; };
-  bProgramRunning = true;
-  bEditorHasFocus = false;
-  txtProgram.GotFocus();
-  EXPECT_EQ(iFocus, 1);
-  EXPECT_FALSE(bEditorHasFocus);
-  bProgramRunning = false;
-  txtProgram.GotFocus();
-  EXPECT_EQ(iFocus, 1);
-}
-
-TEST_F(ProgramEditor, KeepsItsSelectionWhenItLosesTheFocusToARun) {
-  lSavedSelStart = 1;
-  txtProgram.SetText("ABCD");
-  txtProgram.Select(2, 2);
-  bProgramRunning = true;
-  txtProgram.LostFocus();
-  EXPECT_EQ(lSavedSelStart, 1);
-}
-
-struct DoubleClickRow {
-  int iCaret;
-  int iStart, iLength;
-};
-
-const DoubleClickRow DoubleClickRows[] = {{0, 0, 4}, {3, 0, 4},  {4, 4, 0},  {6, 6, 0},
-                                          {8, 8, 5}, {12, 8, 5}, {13, 13, 0}};
-
-TEST_F(ProgramEditor, SelectsALineOfTheLastCompileByADoubleClick) {
-  txtProgram.SetText("BEEP\r\n\r\nBREAK");
-  CompileProgram();
-  for (const DoubleClickRow& row : DoubleClickRows) {
-    txtProgram.Select(row.iCaret, 0);
-    txtProgram.DblClick();
-    EXPECT_EQ(txtProgram.SelStart(), row.iStart) << row.iCaret;
-    EXPECT_EQ(txtProgram.SelLength(), row.iLength) << row.iCaret;
-  }
-}
-
-TEST_F(ProgramEditor, SelectsNothingByADoubleClickAheadOfTheFirstCompile) {
-  txtProgram.SetText("BEEP");
-  txtProgram.Select(1, 0);
-  txtProgram.DblClick();
-  EXPECT_EQ(txtProgram.SelStart(), 1);
-  EXPECT_EQ(txtProgram.SelLength(), 0);
-}
-
-TEST_F(ProgramEditor, SelectsNothingByADoubleClickWhileAProgramRuns) {
-  txtProgram.SetText("BEEP");
-  CompileProgram();
-  txtProgram.Select(1, 0);
-  bProgramRunning = true;
-  txtProgram.DblClick();
-  EXPECT_EQ(txtProgram.SelLength(), 0);
-}
-
-TEST_F(ProgramEditor, ThrowsAwayTheKeysOfItsFocusKeeper) {
-  txtFocusGrab.SetText("asdf");
+TEST_F(EditorTest, FocusKeeperThrowsItsKeysAway) {
+  txtFocusGrab.UserEdit(0, 0, "abc");
   txtFocusGrab.LostFocus();
   EXPECT_EQ(txtFocusGrab.Text(), "");
+  EXPECT_EQ(txtProgram.Text(), "");
+}
+
+TEST_F(EditorTest, ResetEmptiesTheEditorAndItsSelection) {
+  Type("HALT");
+  txtProgram.Select(1, 2);
+  lSavedSelStart = 3;
+  lSavedSelLength = 2;
+  sSavedSelText = "AL";
+  ResetProgramState();
+  EXPECT_EQ(txtProgram.Text(), "");
+  EXPECT_EQ(txtProgram.SelStart(), 0);
+  EXPECT_EQ(txtProgram.SelLength(), 0);
+  EXPECT_EQ(lSavedSelStart, 0);
+  EXPECT_EQ(lSavedSelLength, 0);
+  EXPECT_EQ(sSavedSelText, "");
+}
+
+TEST_F(EditorTest, ResetPutsTheRunStateBack) {
+  bEditorHasFocus = bProgramRunning = bTraceArmed = true;
+  bInIfBlock = bIfCondition = true;
+  lCurrentLine = 7;
+  sProgramFile = "\\A.GTP";
+  ResetProgramState();
+  EXPECT_FALSE(bEditorHasFocus || bProgramRunning || bTraceArmed);
+  EXPECT_FALSE(bInIfBlock || bIfCondition);
+  EXPECT_EQ(lCurrentLine, 0);
+  EXPECT_EQ(sProgramFile, "");
+}
+
+TEST_F(EditorTest, ResetClearsTheDisplaysAndHidesTheMessage) {
+  pnlMessage.Visible = true;
+  lblAnalogVal.Caption = "9";
+  lblPowerLevel.Caption = "9";
+  ResetProgramState();
+  EXPECT_FALSE(pnlMessage.Visible);
+  EXPECT_EQ(lblAnalogVal.Caption.value(), "0");
+  EXPECT_EQ(lblPowerLevel.Caption.value(), "0");
+}
+
+TEST_F(EditorTest, ResetReadsTheKeywords) {
+  KeywordTable.fill("");
+  ResetProgramState();
+  EXPECT_EQ(Word(Keyword::Print), "PRINT");
+  EXPECT_EQ(Word(Keyword::SoundSensor), "SOUND_SENSOR");
+}
+
+TEST_F(PresetTest, ResetChangesTheDirectionWithoutSendingIt) {
+  station.Start(Link::Parallel);
+  SetDirection(0);
+  station.Forget();
+  ResetProgramState();
+  EXPECT_EQ(iDirection, 1);
+  EXPECT_EQ(lOutputImage, 0);
+  EXPECT_TRUE(station.WrittenBytes().empty());
+}
+
+TEST_F(EditorTest, ResetCountsAsAChangeOfATextThatWasThere) {
+  txtProgram.SetText("HALT");
+  bProgramDirty = false;
+  ResetProgramState();
+  EXPECT_TRUE(bProgramDirty);
 }
 
 }  // namespace
+
 }  // namespace glidetrak
