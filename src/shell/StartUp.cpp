@@ -32,7 +32,8 @@ namespace glidetrak {
 
 namespace {
 
-constexpr int iHandCursor = 6;  ///< in imgListSwitches
+constexpr double fBeyondLanguages = 100;  ///< greater than every language index
+constexpr int iHandCursor = 6;            ///< in imgListSwitches
 
 void BeginLoading() {
   bLoading = true;
@@ -43,9 +44,9 @@ void TakeSystemLanguage() {
   sLanguageIndex = QString::number(LanguageIndexFromCode(GetSystemLanguage()));
 }
 
-/// /LANG takes any text; a number that stands for no language becomes one of no language's, too.
+/// /LANG takes any number; one too large for an index must not wrap round to a language.
 int LanguageIndex() {
-  return static_cast<int>(std::clamp(NumericPrefix(sLanguageIndex), -1.0, 100.0));
+  return static_cast<int>(std::clamp(NumericPrefix(sLanguageIndex), -1.0, fBeyondLanguages));
 }
 
 /// Id 10 tells which texts came out: without a table of its own a language counts as English.

@@ -58,17 +58,6 @@ TEST_F(StartUp, TakesTheFirstPresetWithoutSuchAFile) {
   }
 }
 
-TEST_F(StartUp, StartsEmptyWithoutAWordWhenTheFileCannotBeRead) {
-  AddPresets();
-  station.platform.AddFile("C:\\PLAN.GTP", "HALT");
-  station.platform.aUnreadable.insert("C:\\PLAN.GTP");
-  QStringList aBoxes;
-  station.platform.OnBox = [&](const VirtualBox& box) { aBoxes.append(box.sText); };
-  station.Start(Link::Parallel, "C:\\PLAN.GTP");
-  EXPECT_EQ(txtProgram.Text(), "");
-  EXPECT_EQ(aBoxes, QStringList());
-}
-
 TEST_F(StartUp, StandsInManualModeWithTheEditorReadyBehindIt) {
   station.Start();
   EXPECT_EQ(iControlMode, modeManual);
@@ -105,16 +94,6 @@ TEST_F(StartUp, SetsForwardAndPowerZero) {
   EXPECT_EQ(imgLever.Top, 4760);
 }
 
-TEST_F(StartUp, ShowsTheLinkAndRetriesOneThatIsDown) {
-  station.Start(Link::Down);
-  EXPECT_EQ(lblHWState.Caption, "Glidetrak interface not detected");
-  EXPECT_TRUE(tmrReconnect.Enabled);
-  Station other;
-  other.Start(Link::Parallel);
-  EXPECT_EQ(lblHWState.Caption, "Glidetrak interface detected");
-  EXPECT_FALSE(tmrReconnect.Enabled);
-}
-
 TEST_F(StartUp, BuildsTheNamesAndStartsTheTick) {
   station.Start();
   EXPECT_EQ(CommandNameTable[0].sName, "AIRPORT_CALL");
@@ -140,25 +119,6 @@ TEST_F(StartUp, HidesTheFormBehindTheHourglassWhileItLoads) {
   station.Start();
   EXPECT_TRUE(bHidden);
   EXPECT_EQ(iPointer, ptrHourglass);
-}
-
-TEST_F(StartUp, GivesTheHandToTheFormAndSixControls) {
-  station.Start();
-  for (const Control* pControl :
-       std::initializer_list<const Control*>{&frmGlidetrak, &imgLever, &picTogTimer, &picTogImpact,
-                                             &btnEmergency, &btnRstStop, &btnTmrReset}) {
-    EXPECT_EQ(pControl->MouseIcon, PictureId::HandCursor);
-  }
-}
-
-TEST_F(StartUp, EndsASecondCopyBehindAMessage) {
-  station.platform.bFirstCopy = false;
-  EXPECT_THROW(station.Start(Link::Parallel), ProcessEnded);
-  EXPECT_EQ(station.BoxTexts(), QStringList("This Application is already running."));
-  EXPECT_EQ(station.platform.aBoxes[0].sTitle, "Glidetrak Control");
-  EXPECT_EQ(station.platform.iOtherCopyActivated, 1);
-  EXPECT_EQ(station.WrittenBytes(), std::vector<qint32>{0});
-  EXPECT_FALSE(frmGlidetrak.Visible);
 }
 
 /// The language of the system, the command line, and what comes of them; the Spanish folder holds a
