@@ -4,8 +4,11 @@
 
 #include "form/ControlTable.h"
 #include "form/frmGlidetrak.h"
+#include "hardware/AdapterLayer.h"
+#include "platform/ProcessEnd.h"
+#include "platform/Suspend.h"
 #include "platform/linux/LinuxMachine.h"
-#include "platform/linux/LinuxSignals.h"
+#include "shell/Closing.h"
 #include "shell/Events.h"
 #include "shell/StartUp.h"
 #include "view/MainWindow.h"
@@ -20,12 +23,14 @@ int main(int argc, char** argv) {
 
   machine.SetActivation([] { glidetrak::MainWindow()->ComeForward(); });
 
-  glidetrak::OnTermination([] { glidetrak::frmGlidetrak.FormUnload(); });
+  glidetrak::WatchProcessEnd({[] { glidetrak::frmGlidetrak.FormUnload(); }, glidetrak::StopRigAtEnd,
+                              glidetrak::StopRigInCrash});
 
   glidetrak::ResetForms();
   glidetrak::WireEvents();
   glidetrak::BuildView();
   glidetrak::Form_Load(glidetrak::CommandLine(QApplication::arguments()));
+  glidetrak::OnSuspend(glidetrak::Form_Suspend);
   QApplication::exec();
   machine.EndProcess();
 }

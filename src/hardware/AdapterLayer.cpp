@@ -1,5 +1,7 @@
 #include "hardware/AdapterLayer.h"
 
+#include <utility>
+
 #include "common/DelayMilliseconds.h"
 #include "common/SharedState.h"
 #include "common/SkipOnError.h"
@@ -74,8 +76,13 @@ void ReleaseParallel() {
   SkipOnError([] { CloseLPT(lPortHandle); });
 }
 
+/// The rig gets one last byte, by whatever road; true for the first who asks, while there is a rig.
+bool OweLastByte() {
+  return bLinkUp && !std::exchange(bRigLetGo, true);
+}
+
 void ReleaseRig() {
-  if (!bLinkUp) return;
+  if (!OweLastByte()) return;
   if (bUsbLink) {
     UsbWriteOutput(0);
     UsbCloseAdapter();
@@ -155,6 +162,28 @@ void ShutDownHardware() {
   ReleaseRig();
   bShuttingDown = true;
   DelayMilliseconds(Pump::Yes, lShutDownWait, Tick::Suspended);
+}
+
+void StopRigAtEnd() {
+  if (!OweLastByte()) return;
+  SkipOnError([] {
+    if (bUsbLink) {
+      UsbWriteOutput(0);
+    } else {
+      WriteAdapter(lPortAddress, 0);
+    }
+  });
+}
+
+void StopRigInCrash() {
+  if (!OweLastByte()) return;
+  SkipOnError([] {
+    if (bUsbLink) {
+      UsbWriteZeroInCrash();
+    } else {
+      WriteAdapter(lPortAddress, 0);
+    }
+  });
 }
 
 }  // namespace glidetrak

@@ -33,6 +33,10 @@ inline qint32 lPortHandle = 0;
 /// The lost-link message was shown; it comes once in the life of the process.
 inline bool bLinkMessageShown = false;
 
+/// No last byte is owed to the rig: it has had it, or this copy of the station gives up to another
+/// one and must not stop what that one drives. Set here, and by shell/ in a copy that is refused.
+inline bool bRigLetGo = false;
+
 /// The last analog value on the USB link, 0 to 15.
 inline qint16 iUsbAnalog = 0;
 
@@ -64,8 +68,17 @@ void HandleLinkLost();
 
 void tmrReconnect_Timer();
 
-/// Lets go of the rig: its last byte is a literal 0, not the image. With the link down no hardware
-/// is touched. Ends with a wait of 200 ms, after which ticks do nothing.
+/// Lets go of the rig: its last byte is a literal 0, not the image. With the link down, or with no
+/// last byte owed, no hardware is touched. Ends with a wait of 200 ms, after which ticks do
+/// nothing.
 void ShutDownHardware();
+
+/// For an end of the process that is no shut-down: the literal 0, if the link is up and a last byte
+/// is owed. Pumps nothing; on USB it waits for the reply like every exchange.
+void StopRigAtEnd();
+
+/// The same for a process that crashes: on USB it is one write to the device that is open. Takes no
+/// memory; what the library does in its call is the library's own.
+void StopRigInCrash();
 
 }  // namespace glidetrak

@@ -1,5 +1,6 @@
 #include "hardware/USBIntegration.h"
 
+#include <array>
 #include <memory>
 
 #include "hardware/clsUSBHID.h"
@@ -15,6 +16,10 @@ constexpr int iSetOutputLength = 19;
 constexpr int iOutputByteIndex = 16;
 constexpr int iDigitalIndex = 2;
 constexpr int iAnalogIndex = 3;
+
+/// Set output with the byte 0 behind its report id, filled up to the longest report that a device
+/// can declare: it stands ready for a moment in which no memory can be had.
+constexpr std::array<char, 0xFFFF> aZeroReport{0, 4, 1};
 
 /// The one device object; null before the first open and after the close.
 std::unique_ptr<clsUSBHID> pAdapter;
@@ -55,6 +60,10 @@ quint8 UsbReadInput() {
 
 quint8 UsbReadAnalog() {
   return ReadStateByte(iAnalogIndex);
+}
+
+void UsbWriteZeroInCrash() {
+  if (pAdapter != nullptr) pAdapter->WriteInCrash(aZeroReport);
 }
 
 void UsbCloseAdapter() {

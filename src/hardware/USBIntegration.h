@@ -25,6 +25,10 @@ quint8 UsbReadInput();
 /// The analog byte as it came; 0 when no reply came. An exchange of its own.
 quint8 UsbReadAnalog();
 
+/// Set output with the byte 0 for a process that crashes: one write to the device that is open, its
+/// reply not awaited. Nothing is opened, and no memory is taken.
+void UsbWriteZeroInCrash();
+
 /// Drops the device object, which closes the device.
 void UsbCloseAdapter();
 

@@ -25,6 +25,11 @@ bool clsUSBHID::WriteReport(const QByteArray& data) {
   return lWritten != 0;
 }
 
+void clsUSBHID::WriteInCrash(std::span<const char> report) {
+  if (m_lHIDhandle == 0 || m_capabilities.iOutput > report.size()) return;
+  pMachine->HidWrite(m_lHIDhandle, QByteArray::fromRawData(report.data(), m_capabilities.iOutput));
+}
+
 std::optional<QByteArray> clsUSBHID::ReadReport() {
   if (!m_bConnected) OpenDevice();
   if (!m_bConnected) return {};

@@ -17,6 +17,7 @@
 #include <QByteArray>
 #include <QString>
 #include <optional>
+#include <span>
 
 #include "hardware/modUSBHID.h"
 #include "platform/Platform.h"
@@ -34,6 +35,10 @@ class clsUSBHID {
   /// no device is there, when the data is empty or longer than that length less 1, or when nothing
   /// was written.
   bool WriteReport(const QByteArray& data);
+
+  /// For a process that crashes: one write of an output report to the device if it is open. The
+  /// report begins with its id and is cut to the device's length. Takes no memory.
+  void WriteInCrash(std::span<const char> report);
 
   /// The next input report without its report id, always one byte less than the declared length;
   /// nothing when none came. Blocks for up to lReadTimeOut.

@@ -47,7 +47,7 @@ class Machine {
   /// 1 ms goes by.
   virtual void SpinOnce() {}
 
-  /// Ends the process at once; nothing after the call runs.
+  /// Ends the process at once, behind the last deed of ProcessEnd.h; nothing after the call runs.
   [[noreturn]] virtual void EndProcess() = 0;
 
   /// The whole file. Throws FileNotFound, or FileAccess for what is no regular file or cannot be
@@ -128,9 +128,9 @@ class Machine {
   /// The text of the last HID error, for a debugger; "" when there was none.
   virtual QString HidErrorText() = 0;
 
-  /// Calls the operation of that name of the library trackport32; all integers are 32-bit and
-  /// passed by value, 0 to 2 of them. Throws PlatformCall when the library or the operation is
-  /// missing.
+  /// Calls the operation of that name, a literal, of the library trackport32; all integers are
+  /// 32-bit and passed by value, 0 to 2 of them. Throws PlatformCall when the library or the
+  /// operation is missing.
   virtual qint32 CallTrackport(const char* sOperation, std::initializer_list<qint32> arguments) = 0;
 };
 

@@ -11,6 +11,7 @@
 #include "shell/Placement.h"
 #include "strings/ResourceText.h"
 #include "strings/ShowMessage.h"
+#include "track/AbortProgram.h"
 
 namespace glidetrak {
 
@@ -56,6 +57,10 @@ void Form_Unload() {
   LockForm();
   SkipOnError(ShutDownHardware);
   pMachine->EndProcess();
+}
+
+void Form_Suspend() {
+  if (!bShuttingDown) AbortProgram();
 }
 
 void MNUNEWPROG_Click() {

@@ -11,6 +11,10 @@ void Form_QueryUnload(bool& bCancel);
 /// Lets go of the rig and ends the process at once.
 void Form_Unload();
 
+/// The machine is about to sleep, and nobody would watch the rig: the vehicle stops, and a program
+/// with it. Nothing once shut-down has begun, behind whose last byte none may come.
+void Form_Suspend();
+
 void MNUNEWPROG_Click();
 void MNULOADPROG_Click();
 void MNUSAVEPROG_Click();

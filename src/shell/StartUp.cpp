@@ -161,6 +161,7 @@ void Form_Load(const QString& sCommandLine) {
 
 void CheckSingleInstance() {
   if (pMachine->TakeSingleInstance()) return;
+  bRigLetGo = true;  // the rig is the first copy's
   ShowMessage(50, 80, BoxIcon::Exclamation);
   application.Title = "Exists";  // so that the search for the other copy does not find this one
   pDesktop->PumpEvents();

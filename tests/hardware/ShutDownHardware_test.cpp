@@ -92,6 +92,7 @@ TEST_F(ShutDown, LeavesTheTickEnabledAndInert) {
 TEST_F(ShutDown, PassesOverEachFailingStep) {
   for (const QByteArray operation : {"WriteAdapter", "SetStrobe", "CloseLPT"}) {
     bShuttingDown = false;
+    bRigLetGo = false;
     rig.aMissingOperations.clear();
     station.Start();
     rig.aMissingOperations = {operation};

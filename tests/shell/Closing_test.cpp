@@ -204,6 +204,32 @@ TEST_F(Closing, AClickInTheLastWaitDoesNotReachTheRig) {
   EXPECT_EQ(platform.rig.aWritten.back().lByte, 0);
 }
 
+TEST_F(Closing, ASecondUnloadInTheLastWaitWritesNothingMore) {
+  SetPower(15);
+  platform.rig.aWritten.clear();
+  platform.At(platform.lNow + 50, [] { frmGlidetrak.FormUnload(); });
+  EXPECT_THROW(frmGlidetrak.FormUnload(), ProcessEnded);
+  EXPECT_EQ(platform.rig.aWritten.size(), 1U);
+}
+
+TEST_F(Closing, ASleepStopsTheVehicleAndTheProgram) {
+  iControlMode = modeProgram;
+  platform.At(platform.lNow + 500, [] {
+    SetPower(9);
+    Form_Suspend();
+  });
+  cmdRunProgram.Click();
+  EXPECT_FALSE(bProgramRunning);
+  EXPECT_EQ(iPower, 0);
+  EXPECT_EQ(platform.rig.aWritten.back().lByte, 0x10);
+}
+
+TEST_F(Closing, ASleepInTheLastWaitDoesNotReachTheRig) {
+  platform.At(platform.lNow + 50, Form_Suspend);
+  EXPECT_THROW(frmGlidetrak.FormUnload(), ProcessEnded);
+  EXPECT_EQ(platform.rig.aWritten.back().lByte, 0);
+}
+
 TEST_F(Closing, UnloadWithTheLinkDownTouchesNoHardware) {
   bLinkUp = false;
   platform.rig.aWritten.clear();

@@ -43,6 +43,16 @@ TEST_F(SecondCopy, HasTouchedThePortByThen) {
   EXPECT_TRUE(bLinkUp);
 }
 
+TEST_F(SecondCopy, WritesNothingWhenItIsToldToEndInItsBox) {
+  platform.rig.AttachParallel();
+  platform.OnBox = [&](const VirtualBox&) {
+    platform.rig.aWritten.clear();
+    frmGlidetrak.FormUnload();
+  };
+  EXPECT_THROW(Start(), ProcessEnded);
+  EXPECT_TRUE(platform.rig.aWritten.empty());
+}
+
 TEST_F(SecondCopy, NeverShowsItsWindow) {
   EXPECT_THROW(Start(), ProcessEnded);
   EXPECT_FALSE(frmGlidetrak.Visible);

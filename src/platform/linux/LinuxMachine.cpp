@@ -7,9 +7,11 @@
 #include <QLocale>
 #include <QStandardPaths>
 #include <QTime>
+#include <cstring>
 #include <ctime>
 
 #include "platform/ConfigurationText.h"
+#include "platform/ProcessEnd.h"
 #include "platform/linux/LinuxLanguage.h"
 #include "platform/linux/LinuxSettings.h"
 
@@ -46,6 +48,7 @@ qint32 LinuxMachine::GetTickCount() {
 }
 
 void LinuxMachine::EndProcess() {
+  DoLastDeed();
   std::_Exit(0);
 }
 
@@ -138,15 +141,26 @@ QString LinuxMachine::LongTime() {
   return locale.toString(QTime::currentTime(), sFormat.trimmed());
 }
 
-qint32 LinuxMachine::CallTrackport(const char* sOperation,
-                                   std::initializer_list<qint32> arguments) {
+/// An operation that was called before is called again without a look into the library, as a
+/// process that crashes calls it with nothing to rely on.
+QFunctionPointer LinuxMachine::FindOperation(const char* sName) {
+  for (const Operation& known : m_aOperations) {
+    if (std::strcmp(known.sName, sName) == 0) return known.pointer;
+  }
   if (!m_trackport.isLoaded()) {
     m_trackport.setFileName(QCoreApplication::applicationDirPath() + "/libtrackport32.so");
     if (!m_trackport.load()) throw RuntimeError(Fault::PlatformCall);
+    MoveLastDeedAhead();
   }
-  const QFunctionPointer operation = m_trackport.resolve(sOperation);
-  if (operation == nullptr) throw RuntimeError(Fault::PlatformCall);
-  return CallOperation(operation, arguments);
+  const QFunctionPointer pointer = m_trackport.resolve(sName);
+  if (pointer == nullptr) throw RuntimeError(Fault::PlatformCall);
+  m_aOperations.push_back({sName, pointer});
+  return pointer;
+}
+
+qint32 LinuxMachine::CallTrackport(const char* sOperation,
+                                   std::initializer_list<qint32> arguments) {
+  return CallOperation(FindOperation(sOperation), arguments);
 }
 
 }  // namespace glidetrak

@@ -71,12 +71,21 @@ class LinuxMachine : public Machine {
     bool operator==(const ReadStamp&) const = default;
   };
 
+  /// An operation of the parallel library; the name is the caller's literal.
+  struct Operation {
+    const char* sName;
+    QFunctionPointer pointer;
+  };
+
+  QFunctionPointer FindOperation(const char* sName);
+
   LinuxPaths m_paths;
   ConfigurationText m_configuration;  ///< of the file of m_configurationStamp
   ReadStamp m_configurationStamp;
   LinuxHid m_hid;
   LinuxInstance m_instance;
   QLibrary m_trackport;  ///< libtrackport32.so beside the executable, loaded at its first call
+  std::vector<Operation> m_aOperations;  ///< those that were called
 };
 
 }  // namespace glidetrak
