@@ -9,12 +9,14 @@
 #include "form/frmAbout.h"
 #include "form/frmGlidetrak.h"
 #include "view/ControlWidgets.h"
+#include "view/EmergencyRoads.h"
 #include "view/MainWindow.h"
 #include "view/MenuBar.h"
 #include "view/Monitors.h"
 #include "view/PictureStore.h"
 #include "view/Pointers.h"
 #include "view/RunKeys.h"
+#include "view/SessionEnd.h"
 
 namespace glidetrak {
 
@@ -51,6 +53,8 @@ void BuildMainForm() {
   OrderOverlaps();
   pMainWindow->FitClient();
   new RunKeys(pMainWindow);
+  new EmergencyRoads(pMainWindow);
+  WatchSessionEnd(pMainWindow);
 }
 
 void SetIcon() {

@@ -4,6 +4,7 @@ set(VIEW_SOURCES
   view/ControlWidgets.cpp
   view/Displays.cpp
   view/EditorText.cpp
+  view/EmergencyRoads.cpp
   view/EventRelay.cpp
   view/FileDialogs.cpp
   view/FocusKeeper.cpp
@@ -21,6 +22,7 @@ set(VIEW_SOURCES
   view/Pointers.cpp
   view/ProgramEditor.cpp
   view/RunKeys.cpp
+  view/SessionEnd.cpp
   view/TextColours.cpp
   view/TextWidgets.cpp
   view/Timers.cpp
