@@ -1,29 +1,17 @@
 #include "RunningStation.h"
 
 #include <QDir>
-#include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
 #include <QThread>
+#include <utility>
 
 namespace glidetrak {
 
 namespace {
 
-constexpr int iPatience = 5000;    ///< milliseconds that anything may take to show
 constexpr int iStartupBox = 6800;  ///< the start-up box stays for six seconds
 const char* const sMainTitle = "Glidetrak Control|Control del sistema Glidetrak";
-
-template <class Condition>
-bool WaitUntil(Condition condition) {
-  QElapsedTimer clock;
-  clock.start();
-  while (clock.elapsed() < iPatience) {
-    if (condition()) return true;
-    Wait(50);
-  }
-  return false;
-}
 
 QByteArray ReadWhole(const QString& sPath) {
   QFile file(sPath);
@@ -36,7 +24,8 @@ void Wait(int iMilliseconds) {
   QThread::msleep(static_cast<unsigned long>(iMilliseconds));
 }
 
-RunningStation::RunningStation() : m_environment(QProcessEnvironment::systemEnvironment()) {
+RunningStation::RunningStation(QString sStation)
+    : m_sStation(std::move(sStation)), m_environment(QProcessEnvironment::systemEnvironment()) {
   QDir(Folder()).mkpath("run");
   QDir(Folder()).mkpath("home/Documents");
   QFile::setPermissions(Folder() + "/run", QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
@@ -69,7 +58,7 @@ bool RunningStation::WaitForDisplay() {
 bool RunningStation::Launch(const QStringList& aArguments) {
   m_station.setProcessEnvironment(m_environment);
   m_station.setWorkingDirectory(Folder());
-  m_station.start(GLIDETRAK_STATION, aArguments);
+  m_station.start(m_sStation, aArguments);
   return m_station.waitForStarted() && HasWindow(sMainTitle);
 }
 
@@ -88,7 +77,7 @@ bool RunningStation::StartWithChanges() {
 
 bool RunningStation::StartSecondCopy(QProcess& process) {
   process.setProcessEnvironment(m_environment);
-  process.start(GLIDETRAK_STATION, QStringList());
+  process.start(m_sStation, QStringList());
   return process.waitForStarted();
 }
 
@@ -192,6 +181,10 @@ bool RunningStation::StartWindowManager() {
 
 void RunningStation::PressCloseBox() {
   Output("wmctrl", {"-c", "Glidetrak"});
+}
+
+void RunningStation::KillWindow() {
+  Output("xdotool", {"windowkill", MainWindow()});
 }
 
 void RunningStation::Maximise() {

@@ -4,6 +4,7 @@
 // a user would, and watched through its windows, its files and the rig's state.
 
 #include <QByteArray>
+#include <QElapsedTimer>
 #include <QProcess>
 #include <QProcessEnvironment>
 #include <QString>
@@ -69,8 +70,9 @@ enum FileEntry { entryNew, entryOpen, entrySave, entrySaveAs };
 
 class RunningStation {
  public:
-  /// Starts the display; the station is started by Start. Every test has folders of its own.
-  RunningStation();
+  /// Starts the display; the station is started by Start, by default that of the run folder. Every
+  /// test has folders of its own.
+  explicit RunningStation(QString sStation = GLIDETRAK_STATION);
   ~RunningStation();
 
   /// Starts the station, up to its window; the start-up box comes next. False without a window.
@@ -87,6 +89,10 @@ class RunningStation {
   /// It ended by its own end of process and not by a signal.
   bool EndedByItself() const {
     return m_station.exitStatus() == QProcess::NormalExit && m_station.exitCode() == 0;
+  }
+  /// The signal by which it died; 0 when none did.
+  int KilledBy() const {
+    return m_station.exitStatus() == QProcess::CrashExit ? m_station.exitCode() : 0;
   }
   qint64 Pid() const { return m_station.processId(); }
 
@@ -114,6 +120,9 @@ class RunningStation {
   bool StartWindowManager();
   /// Presses the window's own close box.
   void PressCloseBox();
+  /// Cuts the window's own connection to the display, as a desktop's force quit does.
+  void KillWindow();
+  void KillDisplay() { m_display.kill(); }
   void Maximise();
   void Minimise();
   void MoveWindow(Place corner);
@@ -145,12 +154,17 @@ class RunningStation {
   /// What stands in a file that comes with the station.
   static QByteArray ReadDelivered(const QString& sName);
   QProcessEnvironment Environment() const { return m_environment; }
+  /// An environment variable of what is started from now on.
+  void SetVariable(const QString& sName, const QString& sValue) {
+    m_environment.insert(sName, sValue);
+  }
 
  private:
   QString Output(const QString& sProgram, const QStringList& aArguments);
   QString MainWindow();
   bool WaitForDisplay();
 
+  const QString m_sStation;
   QTemporaryDir m_folder;
   QProcessEnvironment m_environment;
   QProcess m_display;
@@ -160,5 +174,19 @@ class RunningStation {
 
 /// Lets real time go by.
 void Wait(int iMilliseconds);
+
+constexpr int iPatience = 5000;  ///< milliseconds that anything may take to show
+
+/// False when the condition does not come to hold within iPatience.
+template <class Condition>
+bool WaitUntil(Condition condition) {
+  QElapsedTimer clock;
+  clock.start();
+  while (clock.elapsed() < iPatience) {
+    if (condition()) return true;
+    Wait(50);
+  }
+  return false;
+}
 
 }  // namespace glidetrak
