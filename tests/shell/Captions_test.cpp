@@ -42,12 +42,6 @@ TEST_F(Captions, AreSpanish) {
   for (const CaptionText& row : CaptionTexts) {
     EXPECT_EQ(row.pProperty->value(), LoadTextFor(row.iText, iSpanish)) << row.iText;
   }
-  EXPECT_EQ(frmGlidetrak.Caption, "Control del sistema Glidetrak");
-  EXPECT_EQ(cmdSingleStep.Caption, "Ej. secuencial");
-  EXPECT_EQ(MNUEXIT.Caption, "&Cerrar");
-  EXPECT_EQ(MNUShowDebug.Caption, "Show Debug");
-  EXPECT_EQ(lblOff.Caption, "APAGADA");
-  EXPECT_EQ(lblOff2.Caption, "APAGADA");
 }
 
 TEST_F(Captions, LeaveSomeToolTipsBlank) {
