@@ -22,7 +22,7 @@ TEST_P(FirstLessons, OneShowsTwoMessages) {
   Begin(1);
   Run(7000);
   ExpectMessages({{Say("HELLO, EVERYBODY!", "¡HOLA A TODOS!"), 3000},
-                  {Say("WELCOME TO THE TRACK", "BIENVENIDOS A LA PISTA"), 3000}});
+                  {Say("WELCOME TO THE TRACK", "BIENVENIDOS A LA VÍA"), 3000}});
   ExpectNoDrive();
 }
 
