@@ -5,6 +5,7 @@
 #include <QFileInfo>
 
 #include "platform/Platform.h"
+#include "view/FileColumns.h"
 #include "view/ToolkitTexts.h"
 
 namespace glidetrak {
@@ -31,6 +32,7 @@ void OfferName(QFileDialog& box, const QString& sName) {
 /// station's, and some ask before they overwrite.
 void Prepare(QFileDialog& box, const FileDialog& dialog) {
   box.setOptions(QFileDialog::DontUseNativeDialog | QFileDialog::DontConfirmOverwrite);
+  LocaliseColumns(box);
   box.setWindowTitle(dialog.DialogTitle);
   box.setNameFilters(NameFilters(dialog.Filter));
   const QStringList aFilters = box.nameFilters();

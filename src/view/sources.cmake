@@ -6,6 +6,7 @@ set(VIEW_SOURCES
   view/EditorText.cpp
   view/EmergencyRoads.cpp
   view/EventRelay.cpp
+  view/FileColumns.cpp
   view/FileDialogs.cpp
   view/FocusKeeper.cpp
   view/Fonts.cpp
