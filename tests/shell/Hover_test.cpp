@@ -73,24 +73,28 @@ TEST_F(HoverTest, MoveOverAHotButtonRepaintsNothing) {
 
 struct CallerRow {
   const Control* pControl;
-  const char* sIdle;     ///< the hot button after a move while no program runs
-  const char* sRunning;  ///< and while one runs; "RUN" is hot before
+  const char* sToken;
+  bool bWhileRunning;  ///< asks for its token while a program runs, too
 };
 
+const CallerRow aCallers[] = {
+    {&btnStopProg, "STOP", true},        {&cmdProgCommands, "CMD", false},
+    {&cmdSingleStep, "NEXT", false},     {&cmdRunProgram, "RUN", false},
+    {&cmdShowExamples, "SHOWEX", false}, {&pnlProgramBox, "", true},
+    {&imgProgBoxBack, "", false},        {&txtProgram, "", false},
+};
+
+/// Each caller is tried ahead of every picture that may be shown, its own and none among them.
 TEST_F(HoverTest, MouseMovesAskForTheirTokens) {
-  const CallerRow rows[] = {
-      {&btnStopProg, "STOP", "STOP"},      {&cmdProgCommands, "CMD", "RUN"},
-      {&cmdSingleStep, "NEXT", "RUN"},     {&cmdRunProgram, "RUN", "RUN"},
-      {&cmdShowExamples, "SHOWEX", "RUN"}, {&pnlProgramBox, "", ""},
-      {&imgProgBoxBack, "", "RUN"},        {&txtProgram, "", "RUN"},
-  };
-  for (const CallerRow& row : rows) {
-    for (const bool bRunning : {false, true}) {
-      SetHoverState("RUN");
-      bProgramRunning = bRunning;
-      row.pControl->MouseMove(0, 1, 1);
-      SCOPED_TRACE(&row - rows);
-      ExpectHot(bRunning ? row.sRunning : row.sIdle);
+  for (const CallerRow& row : aCallers) {
+    for (const char* sBefore : {"", "CMD", "NEXT", "RUN", "STOP", "SHOWEX"}) {
+      for (const bool bRunning : {false, true}) {
+        SetHoverState(sBefore);
+        bProgramRunning = bRunning;
+        row.pControl->MouseMove(0, 1, 1);
+        SCOPED_TRACE(testing::Message() << row.sToken << " after " << sBefore << ' ' << bRunning);
+        ExpectHot(bRunning && !row.bWhileRunning ? sBefore : row.sToken);
+      }
     }
   }
 }
