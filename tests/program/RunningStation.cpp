@@ -100,6 +100,14 @@ void RunningStation::Click(Place place) {
   Wait(150);
 }
 
+void RunningStation::ClickInWindow(Place place) {
+  Output("xdotool", {"mousemove", "--window", MainWindow(), QString::number(place.iX),
+                     QString::number(place.iY)});
+  Wait(100);
+  Output("xdotool", {"click", "1"});
+  Wait(150);
+}
+
 void RunningStation::Drag(Place from, Place to) {
   MoveTo(from);
   Output("xdotool", {"mousedown", "1"});

@@ -97,6 +97,8 @@ class RunningStation {
   qint64 Pid() const { return m_station.processId(); }
 
   void Click(Place place);
+  /// The same where a window manager has put the window, and a frame around it.
+  void ClickInWindow(Place place);
   void MoveTo(Place place);
   void Drag(Place from, Place to);
   /// Keys by their X names, as xdotool takes them.

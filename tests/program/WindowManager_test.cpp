@@ -9,6 +9,7 @@ namespace glidetrak {
 namespace {
 
 const char* const sMain = "^Glidetrak Control$";
+const QByteArray driveText = "POWER 8\r\nLABEL AGAIN\r\nGOTO AGAIN\r\n";
 const char* const sSettings = "machine/Torvane/Glidetrak.conf";
 
 class WindowManager : public ::testing::Test {
@@ -29,6 +30,26 @@ class WindowManager : public ::testing::Test {
 };
 
 }  // namespace
+
+/// Unlike Exit, which does nothing in a run.
+TEST_F(WindowManager, TheCloseBoxStopsARunBeforeItAsks) {
+  ASSERT_TRUE(station.Start({station.WriteProgram("drive.gtp", driveText)}));
+  station.ClickInWindow(placeProgram);
+  station.ClickInWindow(placeRun);
+  ASSERT_TRUE(station.RigShows("power 8"));
+  station.PressCloseBox();
+  ASSERT_TRUE(station.HasWindow("^Close Software$"));
+  EXPECT_TRUE(station.RigShows("power 0"));
+  station.Picture("closed-in-a-run");
+  station.AnswerNo();
+  ASSERT_TRUE(station.HasNoWindow("^Close Software$"));
+  Wait(500);  // the run ends a little after its power
+  EXPECT_TRUE(station.RigShows("power 0")) << "the stopped program stays stopped";
+  station.ClickInWindow(placeRun);
+  EXPECT_TRUE(station.RigShows("power 8")) << "and can be run again";
+  ASSERT_NO_FATAL_FAILURE(CloseByItsBox());
+  EXPECT_TRUE(station.EndedByItself());
+}
 
 /// In the corner stands the frame, so that the title bar can be reached.
 TEST_F(WindowManager, ACleanStartStandsInTheCornerWithItsFrame) {
