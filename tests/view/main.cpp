@@ -6,6 +6,8 @@
 
 int main(int argc, char** argv) {
   if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+  // The same dates and sizes on every machine.
+  qputenv("LC_ALL", "C.UTF-8");
   ::testing::InitGoogleTest(&argc, argv);
   const QApplication application(argc, argv);
   return RUN_ALL_TESTS();
