@@ -1,6 +1,7 @@
 #include "track/SystemTick.h"
 
-#include "common/CheckedArithmetic.h"
+#include <limits>
+
 #include "common/SharedState.h"
 #include "common/SkipOnError.h"
 #include "form/frmGlidetrak.h"
@@ -26,8 +27,11 @@ bool bInTick = false;
 qint32 lLastJourneyWork = 0;
 qint32 lLastImpactWork = 0;
 
+/// A difference that 32 bits do not hold counts as due: the counter has passed its sign since the
+/// stamp, and only the work renews the stamp.
 bool IsDue(qint32 lNow, qint32 lStamp, qint32 lPeriod) {
-  return lStamp == 0 || CheckedInt32(qint64{lNow} - lStamp) >= lPeriod;
+  const qint64 lSince = qint64{lNow} - lStamp;
+  return lStamp == 0 || lSince >= lPeriod || lSince < std::numeric_limits<qint32>::min();
 }
 
 void ReadRig() {
