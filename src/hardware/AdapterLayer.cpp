@@ -54,6 +54,9 @@ void ReadParallel(bool& bFail, qint32& lValue) {
   bFail = true;
 }
 
+/// A retry is under way: its message box may stand open.
+bool bInRetry = false;
+
 void TryHardware(bool& bResult) {
   bUsbLink = false;
   if (UsbOpenAdapter()) {
@@ -153,8 +156,11 @@ void HandleLinkLost() {
 }
 
 void tmrReconnect_Timer() {
+  if (bInRetry) return;
+  bInRetry = true;
   CheckHardware();
   ShowLinkState();
+  bInRetry = false;
 }
 
 void ShutDownHardware() {

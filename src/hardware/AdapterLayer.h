@@ -66,6 +66,8 @@ void ShowLinkState();
 /// From the tick, when a read failed. The message box stands inside the tick.
 void HandleLinkLost();
 
+/// A retry. One that comes while an earlier one's message box is open does nothing, so that a
+/// missing library covers the window with one box and not with one each 5 s.
 void tmrReconnect_Timer();
 
 /// Lets go of the rig: its last byte is a literal 0, not the image. With the link down, or with no

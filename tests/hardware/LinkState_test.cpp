@@ -216,6 +216,21 @@ TEST_F(Link, WithoutALibraryIsToldOfAtEachRetry) {
   EXPECT_EQ(station.BoxTexts(), (QStringList{sUnable, sUnable, sUnable}));
 }
 
+TEST_F(Link, WithoutALibraryIsToldOfInOneBoxAtATime) {
+  rig.bLibraryThere = false;
+  station.Start(RigLink::None);
+  platform.RunFor(25);
+  station.Forget();
+  int iMost = 0;
+  platform.OnPump = [&] { iMost = std::max(iMost, platform.iOpenBoxes); };
+  platform.iBoxMilliseconds = 6 * lRetry;
+  platform.RunFor(lRetry);
+  EXPECT_EQ(platform.aBoxes.size(), 1u);
+  platform.RunFor(lRetry);
+  EXPECT_EQ(platform.aBoxes.size(), 2u) << "the box has been closed: retries go on";
+  EXPECT_EQ(iMost, 1);
+}
+
 TEST_F(Link, OnUsbIsNotLostWithItsDevice) {
   station.Start(RigLink::Usb);
   rig.lInput = 0x7F;
