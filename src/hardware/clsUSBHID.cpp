@@ -14,12 +14,13 @@ bool clsUSBHID::bDeviceConnected() {
 }
 
 bool clsUSBHID::WriteReport(const QByteArray& data) {
-  if (!m_bConnected) OpenDevice();
+  OpenWhenNeeded();
   if (!m_bConnected) return false;
   if (m_capabilities.iOutput == 0 || data.isEmpty()) return false;
   if (data.size() > m_capabilities.iOutput - 1) return false;
   QByteArray report(m_capabilities.iOutput, '\0');
   std::copy(data.begin(), data.end(), report.begin() + 1);
+  if (m_lReadHandle != 0) pMachine->HidDropInput(m_lReadHandle);
   const qint32 lWritten = pMachine->HidWrite(m_lHIDhandle, report);
   RecordLastError();
   return lWritten != 0;
@@ -31,7 +32,7 @@ void clsUSBHID::WriteInCrash(std::span<const char> report) {
 }
 
 std::optional<QByteArray> clsUSBHID::ReadReport() {
-  if (!m_bConnected) OpenDevice();
+  OpenWhenNeeded();
   if (!m_bConnected) return {};
   if (m_lReadHandle == 0 || m_capabilities.iInput == 0) return {};
   QByteArray report(m_capabilities.iInput, '\0');
@@ -50,14 +51,20 @@ std::optional<QByteArray> clsUSBHID::ReadReport() {
   return {};
 }
 
+void clsUSBHID::OpenWhenNeeded() {
+  if (!m_bConnected || !m_bLengthsKnown) OpenDevice();
+}
+
 void clsUSBHID::OpenDevice() {
   CloseDevice();
-  for (const QByteArray& path : pMachine->HidPaths()) {
-    m_lHIDhandle = pMachine->HidOpen(path);
+  for (const HidListing& listing : pMachine->HidDevices()) {
+    // A device of somebody else's is not even opened: that alone may stir it.
+    if (listing.iVendorID != iVendorID || listing.iProductID != iProductID) continue;
+    m_lHIDhandle = pMachine->HidOpen(listing.path);
     RecordLastError();
     if (AcceptDevice()) {
-      pMachine->GetHidReportLengths(m_lHIDhandle, m_capabilities);
-      m_lReadHandle = pMachine->HidOpen(path);
+      LearnReportLengths();
+      m_lReadHandle = pMachine->HidOpen(listing.path);
       RecordLastError();
       return;
     }
@@ -65,7 +72,8 @@ void clsUSBHID::OpenDevice() {
   }
 }
 
-/// The first device that matches wins.
+/// The first device that matches wins. The ids are looked at once more: the path may have passed to
+/// another device since it was listed.
 bool clsUSBHID::AcceptDevice() {
   HidAttributes attributes;
   if (m_lHIDhandle == 0 || !pMachine->GetHidAttributes(m_lHIDhandle, attributes)) return false;
@@ -77,12 +85,17 @@ bool clsUSBHID::AcceptDevice() {
   return m_bConnected;
 }
 
+/// Lengths that cannot be learnt this time leave those of an earlier opening in force.
+void clsUSBHID::LearnReportLengths() {
+  if (pMachine->GetHidReportLengths(m_lHIDhandle, m_capabilities)) m_bLengthsKnown = true;
+  RecordLastError();
+}
+
 void clsUSBHID::CloseDevice() {
   for (qint32* pHandle : {&m_lHIDhandle, &m_lReadHandle}) {
     if (*pHandle != 0) pMachine->HidClose(*pHandle);
     *pHandle = 0;
   }
-  m_capabilities = {};
   m_bConnected = false;
 }
 

@@ -8,8 +8,17 @@
 //   state    connected flag  handles   leaves by
 //   New      false           0         the first bDeviceConnected, WriteReport, ReadReport
 //   Open     true            both set  a read that times out: Closed; one that fails: Stale
+//   Mute     true            both set  the next report: OpenDevice, which closes them first
 //   Stale    false           both set  the next report: OpenDevice, which closes them first
 //   Closed   false           0         the next report: OpenDevice
+//
+// Mute is an open device whose report lengths could not be learnt, by an object that never learnt
+// any: it can exchange nothing. An object that has learnt them once keeps them over a close, and a
+// reopening that cannot learn them goes on with those.
+//
+// An answer that came too late for its read must not be taken for the answer to a later report, and
+// other processes' answers on the same device arrive here too. So each write first drops what waits
+// to be read.
 //
 // Example: a device that declares output reports of 64 bytes declares 65 with the report id.
 // WriteReport({3, 0, 0}) puts 00 03 00 00 and 61 zeros on the wire.
@@ -53,14 +62,17 @@ class clsUSBHID {
   qint16 iVersionNumber = iAnyVersion;
 
  private:
+  void OpenWhenNeeded();
   void OpenDevice();
   void CloseDevice();
   bool AcceptDevice();
+  void LearnReportLengths();
   void RecordLastError();
 
-  qint32 m_lHIDhandle = 0;   ///< writes go here; 0 when closed
-  qint32 m_lReadHandle = 0;  ///< reads go here; 0 when closed
-  HidReportLengths m_capabilities;
+  qint32 m_lHIDhandle = 0;          ///< writes go here; 0 when closed
+  qint32 m_lReadHandle = 0;         ///< reads go here; 0 when closed
+  HidReportLengths m_capabilities;  ///< as last learnt; zeros until m_bLengthsKnown
+  bool m_bLengthsKnown = false;
   bool m_bConnected = false;
   QString m_sLastError;  ///< of the last platform call; read by nobody, a debugging aid
 };

@@ -27,6 +27,13 @@ struct HidAttributes {
   qint16 iVersionNumber = 0;
 };
 
+/// A device as the enumeration tells of it, without opening it.
+struct HidListing {
+  QByteArray path;
+  qint16 iVendorID = 0;  ///< as in HidAttributes
+  qint16 iProductID = 0;
+};
+
 /// Both lengths in bytes, counting the report id byte; 0 where the device has no such report.
 struct HidReportLengths {
   quint16 iInput = 0;
@@ -34,6 +41,10 @@ struct HidReportLengths {
 };
 
 enum class HidReadResult { Success, TimeOut, Failed };
+
+/// Input reports that one HidDropInput drops: the places of an input queue, and an end to it where
+/// a device sends faster than they are dropped.
+constexpr int iMostDropped = 64;
 
 class Machine {
  public:
@@ -106,17 +117,22 @@ class Machine {
   /// The present time of day in the locale's long format, without the zone.
   virtual QString LongTime() = 0;
 
-  /// Paths of the HID devices that are present.
-  virtual std::vector<QByteArray> HidPaths() = 0;
+  /// The HID devices that are present, each path once. Opens none of them.
+  virtual std::vector<HidListing> HidDevices() = 0;
 
   /// Opens a device for reading and writing, shared; a handle, or 0 when it cannot be opened. Each
-  /// handle has an input queue of its own.
+  /// handle has an input queue of its own, in which every input report of the device waits from the
+  /// opening on, whoever asked for it.
   virtual qint32 HidOpen(const QByteArray& path) = 0;
   virtual void HidClose(qint32 lHandle) = 0;
 
   /// False, and nothing written, when the device does not tell.
   virtual bool GetHidAttributes(qint32 lHandle, HidAttributes& attributes) = 0;
   virtual bool GetHidReportLengths(qint32 lHandle, HidReportLengths& lengths) = 0;
+
+  /// Drops what waits in the handle's input queue, at most iMostDropped reports, and never waits
+  /// for one. Nothing for a handle whose device is gone.
+  virtual void HidDropInput(qint32 lHandle) = 0;
 
   /// Writes one whole output report, the report id first; the count of bytes written, 0 on failure.
   virtual qint32 HidWrite(qint32 lHandle, const QByteArray& report) = 0;

@@ -79,7 +79,6 @@ INSTANTIATE_TEST_SUITE_P(Rows, LinkAtStart,
                          RowName());
 
 TEST_F(Link, AtStartWithoutARigComesWithoutAMessage) {
-  station.Attach(RigLink::None);
   station.Start(RigLink::None);
   EXPECT_THAT(platform.aBoxes, IsEmpty());
 }
@@ -229,6 +228,34 @@ TEST_F(Link, WithoutALibraryIsToldOfInOneBoxAtATime) {
   platform.RunFor(lRetry);
   EXPECT_EQ(platform.aBoxes.size(), 2u) << "the box has been closed: retries go on";
   EXPECT_EQ(iMost, 1);
+}
+
+TEST_F(Link, OnUsbDrivesTheRigThoughItsReportLengthsCannotBeLearntAgain) {
+  station.Start(RigLink::Usb);
+  VirtualHid& device = rig.aDevices[0];
+  device.mood = HidMood::Silent;
+  platform.RunFor(25);
+  ASSERT_TRUE(rig.aOpenHandles.empty());
+  device.mood = HidMood::Answers;
+  device.bTellsLengths = false;
+  SetPower(9);
+  EXPECT_THAT(station.WrittenBytes(), ElementsAre(0x19));
+  rig.lInput = 0x2A;
+  platform.RunFor(25);
+  EXPECT_EQ(lInputImage, 0x2A);
+}
+
+TEST_F(Link, OnUsbFoundWithoutItsReportLengthsHealsWithTheNextTick) {
+  station.Start(RigLink::None);
+  platform.RunFor(25);
+  station.Attach(RigLink::Usb);
+  rig.aDevices[0].bTellsLengths = false;
+  platform.RunFor(lRetry);
+  ExpectShown(true);
+  rig.aDevices[0].bTellsLengths = true;
+  rig.lInput = 0x2A;
+  platform.RunFor(25);
+  EXPECT_EQ(lInputImage, 0x2A);
 }
 
 TEST_F(Link, OnUsbIsNotLostWithItsDevice) {

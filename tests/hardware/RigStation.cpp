@@ -22,7 +22,6 @@ void Restart(Timer& timer) {
 }  // namespace
 
 void RigStation::Attach(RigLink link) {
-  if (link == RigLink::None) rig.Detach();
   if (link == RigLink::Parallel) rig.AttachParallel();
   if (link == RigLink::Usb) rig.AttachUsb();
 }

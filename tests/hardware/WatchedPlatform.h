@@ -42,9 +42,9 @@ class WatchedPlatform : public VirtualPlatform {
     return VirtualPlatform::GetTickCount();
   }
 
-  std::vector<QByteArray> HidPaths() override {
+  std::vector<HidListing> HidDevices() override {
     if (OnEnumerate) OnEnumerate();
-    return VirtualPlatform::HidPaths();
+    return VirtualPlatform::HidDevices();
   }
 
   qint32 HidOpen(const QByteArray& path) override {

@@ -1,4 +1,4 @@
-// The device class's states: New, Open, Stale, Closed, and what leads from one to the next.
+// The device class's states: New, Open, Mute, Stale, Closed, and what leads from one to the next.
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -172,6 +172,64 @@ TEST_F(UsbHidLife, ReadsTheReportLengthsAfreshWhenItReopens) {
   EXPECT_FALSE(device.WriteReport(QByteArray(4, 'd')));
   EXPECT_TRUE(device.WriteReport(QByteArray(3, 'd')));
   EXPECT_EQ(device.ReadReport()->size(), 3);
+}
+
+TEST_F(UsbHidLife, ClosedKeepsTheReportLengthsThatCannotBeLearntAgain) {
+  Hid().lengths = {4, 5};
+  GoClosed();
+  Hid().bTellsLengths = false;
+  EXPECT_FALSE(device.WriteReport(QByteArray(5, 'd')));
+  EXPECT_TRUE(device.WriteReport(QByteArray(4, 'd')));
+  EXPECT_EQ(device.ReadReport()->size(), 3);
+  EXPECT_EQ(rig.iEnumerations, 1);
+}
+
+TEST_F(UsbHidLife, StaleKeepsTheReportLengthsThatCannotBeLearntAgain) {
+  GoStale();
+  Hid().mood = HidMood::Answers;
+  Hid().bTellsLengths = false;
+  EXPECT_TRUE(device.WriteReport(QByteArray(64, 'd')));
+  EXPECT_EQ(device.ReadReport()->size(), 64);
+}
+
+class UsbHidMute : public UsbHidLife {
+ protected:
+  UsbHidMute() {
+    Hid().bTellsLengths = false;
+    EXPECT_TRUE(device.bDeviceConnected());
+  }
+};
+
+TEST_F(UsbHidMute, ExchangesNothing) {
+  EXPECT_FALSE(device.WriteReport("x"));
+  EXPECT_FALSE(device.ReadReport().has_value());
+  EXPECT_TRUE(platform.aWriteHandles.empty());
+  EXPECT_TRUE(platform.aReadHandles.empty());
+  EXPECT_EQ(rig.aOpenHandles.size(), 2u);
+}
+
+TEST_F(UsbHidMute, LearnsTheLengthsWithTheNextReport) {
+  Hid().bTellsLengths = true;
+  EXPECT_TRUE(device.WriteReport(QByteArray(64, 'd')));
+  EXPECT_EQ(device.ReadReport()->size(), 64);
+  EXPECT_EQ(rig.aOpenHandles.size(), 2u);
+}
+
+TEST_F(UsbHidMute, FindsTheDeviceThatCameBackInAnotherPlace) {
+  VirtualHid again;
+  again.path = "again";
+  Hid().mood = HidMood::Vanished;
+  rig.aDevices.push_back(again);
+  EXPECT_TRUE(device.WriteReport("x"));
+  EXPECT_TRUE(device.ReadReport().has_value());
+}
+
+TEST_F(UsbHidLife, IsNotMuteWhenTheDeviceTellsThatItHasNoReports) {
+  Hid().lengths = {0, 0};
+  EXPECT_FALSE(device.WriteReport("x"));
+  EXPECT_FALSE(device.ReadReport().has_value());
+  EXPECT_FALSE(device.WriteReport("x"));
+  EXPECT_EQ(rig.iEnumerations, 1);
 }
 
 TEST_F(UsbHidLife, ReleaseClosesAnOpenDevice) {

@@ -88,7 +88,27 @@ TEST_F(UsbHid, TakesTheFirstDeviceThatMatches) {
   rig.aDevices = {Hid("other", {1, 2, 3}), Hid("first"), Hid("second")};
   clsUSBHID device;
   EXPECT_TRUE(device.bDeviceConnected());
-  EXPECT_THAT(platform.aOpenedPaths, ElementsAre("other", "first", "first"));
+  EXPECT_THAT(platform.aOpenedPaths, ElementsAre("first", "first"));
+}
+
+TEST_F(UsbHid, OpensOnlyWhatIsListedAsTheWantedDevice) {
+  rig.aDevices = {Hid("vendor", {3327, 67, 0x0100}), Hid("product", {3326, 70, 0x0100}),
+                  Hid("version", {3326, 67, 0x0200}), Hid("first")};
+  clsUSBHID device;
+  device.iVersionNumber = 0x0100;
+  EXPECT_TRUE(device.bDeviceConnected());
+  EXPECT_THAT(platform.aOpenedPaths, ElementsAre("version", "first", "first"));
+}
+
+TEST_F(UsbHid, SkipsADeviceThatIsAnotherOnceItIsOpen) {
+  rig.aDevices = {Hid("changing"), Hid("second")};
+  platform.OnOpen = [&](const QByteArray& path) {
+    if (path == "changing") rig.aDevices[0].attributes.iProductID = 1;
+  };
+  clsUSBHID device;
+  EXPECT_TRUE(device.bDeviceConnected());
+  EXPECT_THAT(platform.aOpenedPaths, ElementsAre("changing", "second", "second"));
+  EXPECT_EQ(rig.aOpenHandles.size(), 2u);
 }
 
 TEST_F(UsbHid, TakesADeviceOnceThatIsListedTwice) {

@@ -99,7 +99,7 @@ INSTANTIATE_TEST_SUITE_P(StartUp, FailingStep,
                          ::testing::Values(NamedRow{"ExecutableFolder"},
                                            NamedRow{"SetCurrentFolder"},
                                            NamedRow{"TakeSingleInstance"},
-                                           NamedRow{"NearestMonitor"}, NamedRow{"HidPaths"},
+                                           NamedRow{"NearestMonitor"}, NamedRow{"HidDevices"},
                                            NamedRow{"ReadSetting"}),
                          RowName());
 

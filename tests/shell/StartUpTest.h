@@ -52,9 +52,9 @@ class NotingPlatform : public VirtualPlatform {
     Call("NormalRect");
     return VirtualPlatform::NormalRect();
   }
-  std::vector<QByteArray> HidPaths() override {
-    Call("HidPaths");
-    return VirtualPlatform::HidPaths();
+  std::vector<HidListing> HidDevices() override {
+    Call("HidDevices");
+    return VirtualPlatform::HidDevices();
   }
   QString ReadSetting(Scope scope, const QString& sKey, const QString& sName) override {
     aRead.push_back(Mark(scope) + sName);

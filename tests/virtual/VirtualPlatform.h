@@ -113,7 +113,7 @@ class VirtualPlatform : public Machine, public Desktop {
                                            const QString& sName) override;
   int UserDefaultLanguage() override;
   QString LongTime() override;
-  std::vector<QByteArray> HidPaths() override { return rig.Paths(); }
+  std::vector<HidListing> HidDevices() override { return rig.Devices(); }
   qint32 HidOpen(const QByteArray& path) override { return rig.Open(path); }
   void HidClose(qint32 lHandle) override { rig.Close(lHandle); }
   bool GetHidAttributes(qint32 lHandle, HidAttributes& attributes) override {
@@ -122,6 +122,7 @@ class VirtualPlatform : public Machine, public Desktop {
   bool GetHidReportLengths(qint32 lHandle, HidReportLengths& lengths) override {
     return rig.ReportLengths(lHandle, lengths);
   }
+  void HidDropInput(qint32 lHandle) override { rig.DropInput(lHandle); }
   qint32 HidWrite(qint32 lHandle, const QByteArray& report) override {
     return rig.Write(lHandle, report);
   }

@@ -8,6 +8,11 @@ namespace {
 
 constexpr qint32 lFirstAddress = 0x378;
 constexpr qint32 lAddressStep = 0x100;
+constexpr qint32 lPresentBit = 0x80;
+
+/// Reports that a handle's input queue holds; what comes when it is full is lost. The kernel's ring
+/// of 64 places holds one less.
+constexpr size_t iQueuePlaces = 63;
 
 qint32 PortOf(qint32 lAddress) {
   return (lAddress - lFirstAddress) / lAddressStep + 1;
@@ -44,7 +49,7 @@ void VirtualRig::Record(qint32 lByte) {
 }
 
 qint32 VirtualRig::Reading() {
-  if (aReadings.empty()) return lInput | (bPresent ? 0x80 : 0);
+  if (aReadings.empty()) return (lInput & ~lPresentBit) | (bPresent ? lPresentBit : 0);
   const qint32 lReading = aReadings.front();
   aReadings.pop_front();
   return lReading;
@@ -66,13 +71,14 @@ qint32 VirtualRig::Call(const QByteArray& operation, std::initializer_list<qint3
   return 0;
 }
 
-std::vector<QByteArray> VirtualRig::Paths() {
+std::vector<HidListing> VirtualRig::Devices() {
   ++iEnumerations;
-  std::vector<QByteArray> aPaths;
+  std::vector<HidListing> aListed;
   for (const VirtualHid& device : aDevices) {
-    if (device.mood != HidMood::Vanished) aPaths.push_back(device.path);
+    if (device.mood == HidMood::Vanished) continue;
+    aListed.push_back({device.path, device.attributes.iVendorID, device.attributes.iProductID});
   }
-  return aPaths;
+  return aListed;
 }
 
 qint32 VirtualRig::Open(const QByteArray& path) {
@@ -80,16 +86,17 @@ qint32 VirtualRig::Open(const QByteArray& path) {
                                    [&](const VirtualHid& d) { return d.path == path; });
   if (device == aDevices.end()) return 0;
   if (device->mood == HidMood::Vanished || device->mood == HidMood::Locked) return 0;
+  BringArrivals();  // what has arrived by now is not for the new handle
   const qint32 lHandle = m_lNextHandle++;
   m_aHandlePaths[lHandle] = path;
   aOpenHandles.insert(lHandle);
   ++iHandlesOpened;
-  m_aReplies.clear();
   return lHandle;
 }
 
 void VirtualRig::Close(qint32 lHandle) {
   aOpenHandles.erase(lHandle);
+  m_aQueues.erase(lHandle);
 }
 
 VirtualHid* VirtualRig::DeviceOf(qint32 lHandle) {
@@ -109,7 +116,7 @@ bool VirtualRig::Attributes(qint32 lHandle, HidAttributes& attributes) {
 
 bool VirtualRig::ReportLengths(qint32 lHandle, HidReportLengths& lengths) {
   const VirtualHid* pDevice = DeviceOf(lHandle);
-  if (pDevice == nullptr) return false;
+  if (pDevice == nullptr || !pDevice->bTellsLengths) return false;
   lengths = pDevice->lengths;
   return true;
 }
@@ -124,23 +131,66 @@ QByteArray VirtualRig::Reply(const QByteArray& report) {
   return reply;
 }
 
+/// Each open handle on the device gets the report, whoever asked for it.
+void VirtualRig::Arrive(const QByteArray& path, const QByteArray& report) {
+  for (const qint32 lHandle : aOpenHandles) {
+    std::deque<QByteArray>& aQueue = m_aQueues[lHandle];
+    if (m_aHandlePaths[lHandle] == path && aQueue.size() < iQueuePlaces) aQueue.push_back(report);
+  }
+}
+
+void VirtualRig::BringArrivals() {
+  while (!m_aArrivals.empty() && m_aArrivals.front().lTime <= *m_pNow) {
+    const Arrival arrival = std::move(m_aArrivals.front());
+    m_aArrivals.pop_front();
+    Arrive(arrival.path, arrival.report);
+  }
+}
+
+void VirtualRig::SendInput(const QByteArray& report) {
+  for (const VirtualHid& device : aDevices) Arrive(device.path, report);
+}
+
+void VirtualRig::SendLater(const VirtualHid& device, const QByteArray& report) {
+  const qint64 lTime = *m_pNow + device.lDelay;
+  const auto behind = std::find_if(m_aArrivals.begin(), m_aArrivals.end(),
+                                   [lTime](const Arrival& a) { return a.lTime > lTime; });
+  m_aArrivals.insert(behind, {lTime, device.path, report});
+}
+
+void VirtualRig::DropInput(qint32 lHandle) {
+  if (DeviceOf(lHandle) == nullptr) return;
+  BringArrivals();
+  std::deque<QByteArray>& aQueue = m_aQueues[lHandle];
+  const size_t iDropped = std::min<size_t>(aQueue.size(), iMostDropped);
+  aQueue.erase(aQueue.begin(), aQueue.begin() + static_cast<std::ptrdiff_t>(iDropped));
+}
+
 qint32 VirtualRig::Write(qint32 lHandle, const QByteArray& report) {
   const VirtualHid* pDevice = DeviceOf(lHandle);
   if (pDevice == nullptr) return 0;
   aReports.push_back(report);
   const QByteArray reply = Reply(report);
-  if (pDevice->mood == HidMood::Answers) m_aReplies.push_back(reply);
+  if (pDevice->mood == HidMood::Answers) SendLater(*pDevice, reply);
   return static_cast<qint32>(report.size());
+}
+
+/// Lets time go by until a report waits at the handle; false when the end came first.
+bool VirtualRig::WaitForReport(qint32 lHandle, qint64 lEnd) {
+  BringArrivals();
+  while (m_aQueues[lHandle].empty() && *m_pNow < lEnd) {
+    const bool bComes = !m_aArrivals.empty() && m_aArrivals.front().lTime <= lEnd;
+    *m_pNow = bComes ? m_aArrivals.front().lTime : lEnd;
+    BringArrivals();
+  }
+  return !m_aQueues[lHandle].empty();
 }
 
 HidReadResult VirtualRig::Read(qint32 lHandle, qint32 lTimeOut, QByteArray& report) {
   if (DeviceOf(lHandle) == nullptr) return HidReadResult::Failed;
-  if (m_aReplies.empty()) {
-    *m_pNow += lTimeOut;
-    return HidReadResult::TimeOut;
-  }
-  const QByteArray reply = m_aReplies.front();
-  m_aReplies.pop_front();
+  if (!WaitForReport(lHandle, *m_pNow + lTimeOut)) return HidReadResult::TimeOut;
+  const QByteArray reply = m_aQueues[lHandle].front();
+  m_aQueues[lHandle].pop_front();
   const qsizetype iCount = std::min(reply.size(), report.size());
   std::copy_n(reply.begin(), iCount, report.begin());
   return HidReadResult::Success;

@@ -33,6 +33,8 @@ struct VirtualHid {
   HidAttributes attributes{3326, 70, 0x0100};
   HidReportLengths lengths{65, 65};
   HidMood mood = HidMood::Answers;
+  qint32 lDelay = 0;          ///< milliseconds from a report to its answer
+  bool bTellsLengths = true;  ///< its report lengths can be learnt
 };
 
 class VirtualRig {
@@ -50,14 +52,14 @@ class VirtualRig {
   qint32 lAvailable = 0;              ///< the mask of LPTAvailable
   std::map<qint32, bool> aConnected;  ///< by port, 1 to 3
   std::deque<qint32> aReadings;       ///< of ReadAdapter ahead of everything else
-  bool bPresent = true;               ///< bit 7 of the other readings
+  bool bPresent = false;              ///< bit 7 of the other readings
   std::vector<QByteArray> aCalls;     ///< each call: name and arguments, "ReadAtoD 888 50000"
 
   // The HID devices.
   std::vector<VirtualHid> aDevices;
   std::set<qint32> aOpenHandles;
   int iEnumerations = 0;
-  int iHandlesOpened = 0;
+  int iHandlesOpened = 0;            ///< by the station and by whoever else calls Open
   std::vector<QByteArray> aReports;  ///< each output report, the report id first
 
   // What reached the rig.
@@ -71,11 +73,15 @@ class VirtualRig {
 
   qint32 Call(const QByteArray& operation, std::initializer_list<qint32> arguments);
 
-  std::vector<QByteArray> Paths();
+  /// The devices send a report for which nobody has asked; the report id first.
+  void SendInput(const QByteArray& report);
+
+  std::vector<HidListing> Devices();
   qint32 Open(const QByteArray& path);
   void Close(qint32 lHandle);
   bool Attributes(qint32 lHandle, HidAttributes& attributes);
   bool ReportLengths(qint32 lHandle, HidReportLengths& lengths);
+  void DropInput(qint32 lHandle);
   qint32 Write(qint32 lHandle, const QByteArray& report);
   HidReadResult Read(qint32 lHandle, qint32 lTimeOut, QByteArray& report);
 
@@ -84,11 +90,23 @@ class VirtualRig {
   qint32 Reading();
   VirtualHid* DeviceOf(qint32 lHandle);
   QByteArray Reply(const QByteArray& report);
+  void Arrive(const QByteArray& path, const QByteArray& report);
+  void BringArrivals();
+  void SendLater(const VirtualHid& device, const QByteArray& report);
+  bool WaitForReport(qint32 lHandle, qint64 lEnd);
+
+  /// An input report on its way.
+  struct Arrival {
+    qint64 lTime;
+    QByteArray path;  ///< of its device
+    QByteArray report;
+  };
 
   qint64* m_pNow;
   qint32 m_lNextHandle = 1;
   std::map<qint32, QByteArray> m_aHandlePaths;
-  std::deque<QByteArray> m_aReplies;
+  std::map<qint32, std::deque<QByteArray>> m_aQueues;  ///< by open handle
+  std::deque<Arrival> m_aArrivals;                     ///< by time
 };
 
 }  // namespace glidetrak

@@ -9,12 +9,15 @@ namespace glidetrak {
 
 namespace {
 
-/// The descriptor stands beside the hidraw node in sysfs.
-ReportLayout ReadLayout(const QByteArray& path) {
+/// The descriptor stands beside the hidraw node in sysfs. Nothing when it cannot be read, as while
+/// a plug makes contact and loses it again; no device has an empty one.
+std::optional<ReportLayout> ReadLayout(const QByteArray& path) {
   const QByteArray node = path.mid(path.lastIndexOf('/') + 1);
   QFile file(QString::fromLocal8Bit("/sys/class/hidraw/" + node + "/device/report_descriptor"));
   if (!file.open(QIODevice::ReadOnly)) return {};
-  return ParseReportDescriptor(file.readAll());
+  const QByteArray descriptor = file.readAll();
+  if (descriptor.isEmpty()) return {};
+  return ParseReportDescriptor(descriptor);
 }
 
 }  // namespace
@@ -23,23 +26,25 @@ LinuxHid::~LinuxHid() {
   for (const auto& [lHandle, device] : m_aDevices) hid_close(device.pDevice);
 }
 
-std::vector<QByteArray> LinuxHid::Paths() {
-  std::vector<QByteArray> aPaths;
+std::vector<HidListing> LinuxHid::Devices() {
+  std::vector<HidListing> aDevices;
   hid_device_info* pFirst = hid_enumerate(0, 0);
   for (const hid_device_info* pInfo = pFirst; pInfo != nullptr; pInfo = pInfo->next) {
-    const QByteArray path = pInfo->path;
     // A device with several usages is listed once for each.
-    if (std::find(aPaths.begin(), aPaths.end(), path) == aPaths.end()) aPaths.push_back(path);
+    const auto isThis = [pInfo](const HidListing& listing) { return listing.path == pInfo->path; };
+    if (std::any_of(aDevices.begin(), aDevices.end(), isThis)) continue;
+    aDevices.push_back({pInfo->path, static_cast<qint16>(pInfo->vendor_id),
+                        static_cast<qint16>(pInfo->product_id)});
   }
   hid_free_enumeration(pFirst);
-  return aPaths;
+  return aDevices;
 }
 
 qint32 LinuxHid::Open(const QByteArray& path) {
   hid_device* pDevice = hid_open_path(path.constData());
   if (pDevice == nullptr) return 0;
   const qint32 lHandle = m_lNextHandle++;
-  m_aDevices[lHandle] = {pDevice, path, ReadLayout(path).bNumbered};
+  m_aDevices[lHandle] = {pDevice, path, ReadLayout(path).value_or(ReportLayout{}).bNumbered};
   return lHandle;
 }
 
@@ -66,9 +71,21 @@ bool LinuxHid::Attributes(qint32 lHandle, HidAttributes& attributes) {
 
 bool LinuxHid::ReportLengths(qint32 lHandle, HidReportLengths& lengths) {
   const Device* pFound = Find(lHandle);
-  if (pFound == nullptr) return false;
-  lengths = ReadLayout(pFound->path).lengths;
+  const std::optional<ReportLayout> layout = pFound ? ReadLayout(pFound->path) : std::nullopt;
+  if (!layout) return false;
+  lengths = layout->lengths;
   return true;
+}
+
+/// The kernel takes a report off the queue whole, however little of it is asked for. A queue that
+/// is full drops what comes new, so that emptying it also makes room for the next answer.
+void LinuxHid::DropInput(qint32 lHandle) {
+  const Device* pFound = Find(lHandle);
+  if (pFound == nullptr) return;
+  unsigned char cFirst = 0;
+  for (int i = 0; i < iMostDropped; ++i) {
+    if (hid_read_timeout(pFound->pDevice, &cFirst, 1, 0) <= 0) return;
+  }
 }
 
 qint32 LinuxHid::Write(qint32 lHandle, const QByteArray& report) {

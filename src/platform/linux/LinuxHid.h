@@ -15,11 +15,12 @@ class LinuxHid {
   ~LinuxHid();
 
   // As in Machine.
-  std::vector<QByteArray> Paths();
+  std::vector<HidListing> Devices();
   qint32 Open(const QByteArray& path);
   void Close(qint32 lHandle);
   bool Attributes(qint32 lHandle, HidAttributes& attributes);
   bool ReportLengths(qint32 lHandle, HidReportLengths& lengths);
+  void DropInput(qint32 lHandle);
   qint32 Write(qint32 lHandle, const QByteArray& report);
   HidReadResult Read(qint32 lHandle, qint32 lTimeOut, QByteArray& report);
   QString ErrorText();
@@ -28,7 +29,7 @@ class LinuxHid {
   struct Device {
     hid_device* pDevice;
     QByteArray path;
-    bool bNumbered;  ///< its reports carry an id on the wire
+    bool bNumbered;  ///< its reports carry an id on the wire; false where it does not tell
   };
 
   Device* Find(qint32 lHandle);

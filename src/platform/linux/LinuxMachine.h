@@ -44,7 +44,7 @@ class LinuxMachine : public Machine {
                                            const QString& sName) override;
   int UserDefaultLanguage() override;
   QString LongTime() override;
-  std::vector<QByteArray> HidPaths() override { return m_hid.Paths(); }
+  std::vector<HidListing> HidDevices() override { return m_hid.Devices(); }
   qint32 HidOpen(const QByteArray& path) override { return m_hid.Open(path); }
   void HidClose(qint32 lHandle) override { m_hid.Close(lHandle); }
   bool GetHidAttributes(qint32 lHandle, HidAttributes& attributes) override {
@@ -53,6 +53,7 @@ class LinuxMachine : public Machine {
   bool GetHidReportLengths(qint32 lHandle, HidReportLengths& lengths) override {
     return m_hid.ReportLengths(lHandle, lengths);
   }
+  void HidDropInput(qint32 lHandle) override { m_hid.DropInput(lHandle); }
   qint32 HidWrite(qint32 lHandle, const QByteArray& report) override {
     return m_hid.Write(lHandle, report);
   }
