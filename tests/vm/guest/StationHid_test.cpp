@@ -1,10 +1,12 @@
 // The station's own HID class and adapter layer on the system's real HID stack.
 
 #include <gtest/gtest.h>
+#include <sys/mount.h>
 #include <unistd.h>
 
 #include <QDir>
 #include <QElapsedTimer>
+#include <fstream>
 #include <optional>
 
 #include "HidFile.h"
@@ -19,6 +21,7 @@
 namespace glidetrak {
 namespace {
 
+using bench::HidFile;
 using bench::LiveRig;
 using bench::TrackModel;
 using bench::UhidConfig;
@@ -28,6 +31,9 @@ using bench::WaitForDevices;
 
 constexpr int iLongestExchange = 1500;  ///< ms: the read's 1000 and what a busy guest adds
 constexpr int iAtOnce = 700;            ///< ms: well below a time-out
+constexpr int iLate = 1700;             ///< ms: behind the time-out and a slow reopening
+constexpr int iAWhile = 300;            ///< ms in which what is due has come
+constexpr int iGateBits = 0x30;
 
 QByteArray SetOutput(char cByte, int iLength = 19) {
   QByteArray data(iLength, '\0');
@@ -40,6 +46,21 @@ QByteArray SetOutput(char cByte, int iLength = 19) {
 int OpenDescriptors() {
   return static_cast<int>(QDir("/proc/self/fd").entryList(QDir::AllEntries | QDir::System).size());
 }
+
+/// While it lives the device's report descriptor cannot be read: an empty file lies over it.
+class HiddenDescriptor {
+ public:
+  HiddenDescriptor() {
+    std::ofstream("/tmp/empty").close();
+    EXPECT_EQ(mount("/tmp/empty", sDescriptor, nullptr, MS_BIND, nullptr), 0);
+  }
+  ~HiddenDescriptor() { EXPECT_EQ(umount(sDescriptor), 0); }
+  HiddenDescriptor(const HiddenDescriptor&) = delete;
+  HiddenDescriptor& operator=(const HiddenDescriptor&) = delete;
+
+ private:
+  static constexpr char sDescriptor[] = "/sys/class/hidraw/hidraw0/device/report_descriptor";
+};
 
 /// Boxes and the form stand on the virtual platform; the machine below is the real one.
 class StationHid : public testing::Test {
@@ -62,6 +83,27 @@ class StationHid : public testing::Test {
     ASSERT_TRUE(m_hid.bDeviceConnected());
   }
 
+  /// The time between two ticks, in which the device answers what it was asked.
+  void PassInterval() {
+    const auto bAllAnswered = [this] {
+      const bench::UhidCounts counts = m_device->Counts();
+      return counts.iAnswers == static_cast<int>(counts.aReports.size());
+    };
+    ASSERT_TRUE(bench::WaitFor(bAllAnswered));
+    std::this_thread::sleep_for(std::chrono::milliseconds(iIdleInterval));
+  }
+
+  /// The next ticks read the sensors as they are, behind writes too.
+  void ExpectTrueTicks() {
+    m_rig.With([](TrackModel& model) { model.Place(bench::fGateB); });
+    for (int i = 0; i < 5; ++i) {
+      PassInterval();
+      WriteOutputPort();
+      tmrSystem_Timer();
+      EXPECT_EQ(lInputImage & iGateBits, 0x20) << "tick " << i;
+    }
+  }
+
   size_t ReportsSeen() const { return m_device->Counts().aReports.size(); }
 
   LiveRig m_rig;
@@ -78,11 +120,14 @@ TEST_F(StationHid, FindsNothingWhereNothingIs) {
   EXPECT_FALSE(m_hid.ReadReport());
 }
 
-TEST_F(StationHid, PassesADeviceOfAnotherProduct) {
+TEST_F(StationHid, PassesADeviceOfAnotherProductWithoutOpeningIt) {
   Plug();
   EXPECT_FALSE(m_hid.bDeviceConnected()) << "the class asks for product 67 by itself";
   m_hid.iProductID = bench::iRigProduct;
   EXPECT_TRUE(m_hid.bDeviceConnected());
+  ASSERT_TRUE(m_hid.WriteReport(SetOutput(1)));
+  ASSERT_TRUE(m_hid.ReadReport());  // by now the device has been told of every opening
+  EXPECT_EQ(m_device->Counts().iOpened, 1);
 }
 
 TEST_F(StationHid, ExchangesWholeReports) {
@@ -236,18 +281,79 @@ TEST_F(StationHid, GarbageIsTakenAsItComes) {
   EXPECT_EQ(UsbReadInput(), bench::iGarbage);
 }
 
-TEST_F(StationHid, ALateAnswerCostsOneTimeOutAndTheStationGoesOn) {
+TEST_F(StationHid, ALateAnswerCostsOneTimeOutAndSpoilsNoLaterTick) {
   Plug();
-  ASSERT_TRUE(UsbOpenAdapter());
-  m_device->SetFault(UhidFault::Late, 1200);
+  ASSERT_TRUE(CheckHardware());
+  m_device->SetFault(UhidFault::Late, iLate);
   QElapsedTimer clock;
   clock.start();
-  EXPECT_EQ(UsbReadInput(), 0);
+  tmrSystem_Timer();
   EXPECT_LE(clock.elapsed(), iLongestExchange);
+  EXPECT_EQ(lInputImage, 0);
   m_device->SetFault(UhidFault::None);
-  EXPECT_TRUE(bench::WaitFor([&] { return m_device->Counts().iAnswers == 1; }));
-  UsbReadInput();
-  EXPECT_NE(UsbReadInput(), 0);
+  tmrSystem_Timer();  // opens the device anew
+  ASSERT_LT(clock.elapsed(), iLate) << "the late answer is to come to an open device";
+  while (clock.elapsed() < iLate + iAWhile) tmrSystem_Timer();
+  ExpectTrueTicks();
+}
+
+TEST_F(StationHid, AnswersToAnotherProcessSpoilNoTick) {
+  Plug();
+  ASSERT_TRUE(CheckHardware());
+  HidFile other(bench::ListDevices()[0].sPath);
+  for (int i = 0; i < 5; ++i) {
+    ASSERT_TRUE(other.Write({3, 0, 0}));
+    ExpectTrueTicks();
+  }
+}
+
+TEST_F(StationHid, AQueueThatIsFullLosesNoAnswer) {
+  Plug();
+  ASSERT_TRUE(CheckHardware());
+  HidFile other(bench::ListDevices()[0].sPath);
+  for (int i = 1; i <= iMostDropped + 1; ++i) {
+    ASSERT_TRUE(other.Write({3, 0, 0}));
+    ASSERT_TRUE(bench::WaitFor([&] { return m_device->Counts().iAnswers == i; }));
+  }
+  ExpectTrueTicks();
+}
+
+TEST_F(StationHid, AReopenedDeviceWhoseDescriptorCannotBeReadIsDriven) {
+  PlugAndOpen();
+  m_device->SetFault(UhidFault::Silent);
+  ASSERT_TRUE(m_hid.WriteReport(SetOutput(5)));
+  ASSERT_FALSE(m_hid.ReadReport()) << "which closes the device";
+  m_device->SetFault(UhidFault::None);
+  const HiddenDescriptor hidden;
+  EXPECT_TRUE(m_hid.WriteReport(SetOutput(0)));
+  EXPECT_TRUE(m_hid.ReadReport());
+  EXPECT_EQ(m_rig.With([](TrackModel& model) { return model.Power(); }), 0);
+}
+
+TEST_F(StationHid, ADeviceFoundWithoutItsDescriptorIsReadOnceItCanBe) {
+  Plug();
+  {
+    const HiddenDescriptor hidden;
+    ASSERT_TRUE(CheckHardware());
+    EXPECT_EQ(UsbReadInput(), 0);
+  }
+  EXPECT_NE(UsbReadInput(), 0) << "it is day";
+}
+
+TEST_F(StationHid, TheMachineTellsNoReportLengthsOfADeviceThatIsGone) {
+  Plug();
+  const qint32 lHandle = m_machine.HidOpen(m_machine.HidDevices().at(0).path);
+  HidReportLengths lengths{7, 8};
+  EXPECT_TRUE(m_machine.GetHidReportLengths(lHandle, lengths));
+  EXPECT_EQ(lengths.iInput, 65);
+  m_device->Unplug();
+  ASSERT_TRUE(WaitForDevices(0));
+  lengths = {7, 8};
+  EXPECT_FALSE(m_machine.GetHidReportLengths(lHandle, lengths));
+  EXPECT_EQ(lengths.iInput, 7);
+  EXPECT_EQ(lengths.iOutput, 8);
+  m_machine.HidDropInput(lHandle);
+  m_machine.HidClose(lHandle);
 }
 
 TEST_F(StationHid, ShutDownHandsTheRigItsZeroByte) {
