@@ -1,8 +1,9 @@
 #pragma once
 
 // The system tick, the one heartbeat of the track side. It samples the rig, notices a lost link,
-// carries the lever to the motor and refreshes the displays. It never executes a statement: a
-// program sees the rig through what the tick has left in lInputImage.
+// carries the lever to the motor and refreshes the displays, the journey each 50 ms and the impact
+// each 500 ms; when the uptime counter turns negative both are due at once. It never executes a
+// statement: a program sees the rig through what the tick has left in lInputImage.
 
 namespace glidetrak {
 

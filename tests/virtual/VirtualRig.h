@@ -43,7 +43,7 @@ class VirtualRig {
   explicit VirtualRig(qint64* pNow) : m_pNow(pNow) {}
 
   // What the rig shows.
-  qint32 lInput = 0;   ///< bits 0 to 6; the parallel link adds bit 7
+  qint32 lInput = 0;   ///< the input byte; the parallel link has a bit 7 of its own, bPresent
   qint32 lAnalog = 0;  ///< 0 to 15; on the parallel link handed over as it is
 
   // The parallel library.
