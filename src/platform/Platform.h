@@ -68,11 +68,12 @@ class Machine {
   /// The bits of FileAttribute. Throws FileNotFound when the path names nothing.
   virtual int FileAttributes(const QString& sPath) = 0;
 
-  /// Creates the file, or replaces it, with these bytes. Throws FileAccess; what was written of it
-  /// by then may stay.
+  /// Creates the file, or replaces it, with these bytes. A file that DeleteFile took away gets its
+  /// mode back. Throws FileAccess when it cannot be opened, and then nothing was written;
+  /// WriteBroken when the write broke off, and then a part of it may stay.
   virtual void WriteFile(const QString& sPath, const QByteArray& bytes) = 0;
 
-  /// Throws FileNotFound or FileAccess.
+  /// Deletes the file; of a link its target, and the link stays. Throws FileNotFound or FileAccess.
   virtual void DeleteFile(const QString& sPath) = 0;
 
   /// Folder of the executable, with or without a backslash at its end.
@@ -81,11 +82,13 @@ class Machine {
   /// Throws FileAccess.
   virtual void SetCurrentFolder(const QString& sPath) = 0;
 
-  /// Between the station's paths and those that the machine itself and its dialogs use.
+  /// Between the station's paths and those that the machine itself and its dialogs use. The station
+  /// path of a file that is there means that very file from then on.
   virtual QString NativePath(const QString& sStationPath) = 0;
   virtual QString StationPath(const QString& sNativePath) = 0;
 
-  /// The user's documents folder. Throws PlatformCall when it is not known.
+  /// The user's documents folder, or the home folder where there is none. Throws PlatformCall when
+  /// neither is known.
   virtual QString DocumentsFolder() = 0;
 
   /// A text from the settings store, "" for a missing one. `sKey` is the path below the scope's

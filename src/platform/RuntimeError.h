@@ -15,6 +15,7 @@ enum class Fault {
   BadText,         ///< a text that should hold a number and does not
   FileNotFound,    ///< the path names nothing
   FileAccess,      ///< the path is there and cannot be read, written or deleted
+  WriteBroken,     ///< a write broke off after the file was opened
   FileSlotInUse,   ///< the one file slot is still open
   PlatformCall,    ///< a call of the machine failed or is not offered here
   Cancelled,       ///< the user cancelled a dialog that reports it as an error

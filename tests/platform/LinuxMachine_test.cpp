@@ -31,8 +31,21 @@ TEST_F(LinuxMachineTest, DocumentsFolderIsTheUsersOwn) {
   EXPECT_EQ(machine.DocumentsFolder(), folder.StationPath("Papers"));
 }
 
-TEST_F(LinuxMachineTest, DocumentsFolderThatIsNotThereIsNotKnown) {
+TEST_F(LinuxMachineTest, DocumentsFolderThatIsNotThereIsTheHomeFolder) {
+  folder.AddFile("A file");
+  QDir(folder.Path()).mkdir("Home");
+  qputenv("HOME", folder.Path("Home").toUtf8());
+  for (const char* sName : {"Nothing", "A file"}) {
+    NameDocuments(folder.Path(sName));
+    EXPECT_EQ(machine.DocumentsFolder(), folder.StationPath("Home")) << sName;
+  }
+}
+
+TEST_F(LinuxMachineTest, DocumentsFolderIsNotKnownWithoutAHome) {
   NameDocuments(folder.Path("Nothing"));
+  qputenv("HOME", folder.Path("Nothing either").toUtf8());
+  EXPECT_EQ(FaultOf([&] { machine.DocumentsFolder(); }), Fault::PlatformCall);
+  qunsetenv("HOME");
   EXPECT_EQ(FaultOf([&] { machine.DocumentsFolder(); }), Fault::PlatformCall);
 }
 

@@ -2,6 +2,7 @@
 
 #include "platform/linux/LinuxPaths.h"
 
+#include "platform/FoldCase.h"
 #include "platform/NativeFolder.h"
 #include "platform/linux/LinuxMachine.h"
 #include "shell/CommandLine.h"
@@ -99,6 +100,43 @@ TEST_F(LinuxPathsTest, FileKeepsItsSpellingAfterItWasDeleted) {
   EXPECT_EQ(Native("EXAMPLES\\TRIP ONE.GTP"), "Examples/Trip One.gtp");
 }
 
+TEST_F(LinuxPathsTest, DeletedFileIsNeverANeighbourOfAnotherCase) {
+  EXPECT_EQ(Native("same.GTP"), "same.GTP");
+  QFile::remove(folder.Path("same.GTP"));
+  EXPECT_EQ(Native("same.GTP"), "same.GTP");
+}
+
+TEST_F(LinuxPathsTest, FileFoundInAnotherCaseStaysThatFileBesideANewOne) {
+  EXPECT_EQ(Native("H\\A.GTP"), "H/a.gtp");
+  folder.AddFile("H/A.GTP");
+  EXPECT_EQ(Native("H\\A.GTP"), "H/a.gtp");
+}
+
+TEST_F(LinuxPathsTest, FileThatTheUserChoosesIsMeantWhateverTheCommandLineNamed) {
+  aNamedFiles.insert(FoldCase("SAME.GTP"), "same.GTP");  // as from a folder without small letters
+  EXPECT_EQ(paths.Native("SAME.GTP"), "same.GTP");
+  EXPECT_EQ(paths.Given("SAME.GTP"), "SAME.GTP");
+  EXPECT_EQ(paths.Native("SAME.GTP"), "SAME.GTP");
+}
+
+TEST_F(LinuxPathsTest, QuotesAndBackslashesOfNativeNamesComeBack) {
+  const QString sNative = "/a \"b\"/c\\d";
+  const QString sStation = LinuxPaths::Station(sNative);
+  EXPECT_FALSE(sStation.contains(u'"'));
+  EXPECT_EQ(sStation.count(u'\\'), 2);
+  EXPECT_EQ(paths.Native(sStation), sNative);
+}
+
+TEST_F(LinuxPathsTest, NameIsNoneWithAQuoteOrABackslash) {
+  for (const char* sNative : {"/a/b.gtp", "/a \"b\"/c.gtp", "/a\\b/c.gtp", "a", ""}) {
+    EXPECT_TRUE(LinuxPaths::IsName(LinuxPaths::Station(sNative))) << sNative;
+  }
+  for (const char* sNative : {"/a/b\".gtp", "/a/\\b.gtp", "\"a\""}) {
+    EXPECT_FALSE(LinuxPaths::IsName(LinuxPaths::Station(sNative))) << sNative;
+  }
+  EXPECT_FALSE(LinuxPaths::IsName("\\a\\b\".gtp"));
+}
+
 TEST_F(LinuxPathsTest, EmptyPathIsNoPath) {
   EXPECT_EQ(paths.Native(""), "");
 }
@@ -121,6 +159,43 @@ TEST_F(LinuxPathsTest, CommandLineLeavesEverythingElseAsItIs) {
   EXPECT_EQ(CommandLine({"glidetrak", "/DEBUGMODE", "/LANG='2'", "nothing.gtp"}),
             "/DEBUGMODE /LANG='2' nothing.gtp");
   EXPECT_EQ(CommandLine({"same.GTP"}), "");
+}
+
+/// What start-up makes of an argument, as a native path from the folder on; "" for none.
+QString Opened(const QString& sArgument) {
+  LinuxMachine machine;
+  pMachine = &machine;
+  sCommandLineFile.clear();
+  ParseCommandLine(CommandLine({"glidetrak", sArgument}));
+  const QString sNative =
+      sCommandLineFile.isEmpty() ? QString() : machine.NativePath(sCommandLineFile);
+  pMachine = nullptr;
+  return sNative.mid(QDir::currentPath().size() + 1);
+}
+
+TEST_F(LinuxPathsTest, ArgumentIsTheFileThatWasTypedAmongNeighboursOfAnotherCase) {
+  for (const char* sName : {"lessons/y.gtp", "Lessons/z.gtp", "x/Y.gtp", "x/y.gtp", "x/Y.GTP"}) {
+    folder.AddFile(sName);
+  }
+  for (const char* sName : {"lessons/y.gtp", "Lessons/z.gtp", "x/Y.gtp", "x/y.gtp", "x/Y.GTP",
+                            "same.GTP", "SAME.GTP"}) {
+    EXPECT_EQ(Opened(sName), sName);
+  }
+}
+
+TEST_F(LinuxPathsTest, ArgumentWithAQuoteOrABackslashInItsNameIsNoOtherFile) {
+  for (const char* sName : {"h\"i.gtp", "h\\i.gtp", "hi.gtp", "h/i.gtp"}) folder.AddFile(sName);
+  EXPECT_EQ(Opened("h\"i.gtp"), "");
+  EXPECT_EQ(Opened("h\\i.gtp"), "");
+}
+
+TEST_F(LinuxPathsTest, ArgumentInAFolderWithAQuoteAndABackslashIsFound) {
+  for (const char* sName : {"my \"own\"/a.gtp", "my own/a.gtp", "b\\c/a.gtp", "b/c/a.gtp"}) {
+    folder.AddFile(sName);
+  }
+  for (const char* sName : {"my \"own\"/a.gtp", "my own/a.gtp", "b\\c/a.gtp", "b/c/a.gtp"}) {
+    EXPECT_EQ(Opened(sName), sName);
+  }
 }
 
 TEST_F(LinuxPathsTest, FileInAFolderOfTheSwitchesNameIsFoundThroughTheCommandLine) {

@@ -18,7 +18,10 @@ class NativeFolder {
  public:
   QString Path() const { return m_folder.path(); }
   QString Path(const QString& sName) const { return m_folder.path() + '/' + sName; }
-  QString StationPath(const QString& sName) const { return LinuxPaths::Station(Path(sName)); }
+  /// The name may be written either way.
+  QString StationPath(const QString& sName) const {
+    return LinuxPaths::Station(Path()) + u'\\' + QString(sName).replace(u'/', u'\\');
+  }
 
   /// A file with these bytes, and the folders to it.
   void AddFile(const QString& sName, const QByteArray& bytes = {}) const {

@@ -1,5 +1,7 @@
 #include "platform/linux/LinuxMachine.h"
 
+#include <sys/stat.h>
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
@@ -37,6 +39,24 @@ qint32 CallOperation(QFunctionPointer operation, std::initializer_list<qint32> a
   }
 }
 
+constexpr auto forWriting = QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Unbuffered;
+
+/// A file that was there before gets its mode back. Until then nobody else may open it.
+bool OpenForWriting(QFile& file, std::optional<mode_t> mode) {
+  if (file.fileName().isEmpty()) return false;
+  if (!mode) return file.open(forWriting);
+  if (!file.open(forWriting, QFileDevice::ReadOwner | QFileDevice::WriteOwner)) return false;
+  // Not every file system has modes, and a program is worth more than its mode.
+  [[maybe_unused]] const int iResult = fchmod(file.handle(), *mode);
+  return true;
+}
+
+bool WriteAll(QFile& file, const QByteArray& bytes) {
+  if (file.write(bytes) != bytes.size()) return false;
+  file.close();
+  return file.error() == QFileDevice::NoError;
+}
+
 }  // namespace
 
 qint32 LinuxMachine::GetTickCount() {
@@ -52,8 +72,12 @@ void LinuxMachine::EndProcess() {
   std::_Exit(0);
 }
 
+QString LinuxMachine::NativeFile(const QString& sPath) {
+  return LinuxPaths::IsName(sPath) ? m_paths.Native(sPath) : QString();
+}
+
 QByteArray LinuxMachine::ReadFile(const QString& sPath) {
-  const QString sNative = m_paths.Native(sPath);
+  const QString sNative = NativeFile(sPath);
   const QFileInfo info(sNative);
   if (!info.exists()) throw RuntimeError(Fault::FileNotFound);
   QFile file(sNative);
@@ -65,7 +89,7 @@ QByteArray LinuxMachine::ReadFile(const QString& sPath) {
 }
 
 int LinuxMachine::FileAttributes(const QString& sPath) {
-  const QFileInfo info(m_paths.Native(sPath));
+  const QFileInfo info(NativeFile(sPath));
   if (!info.exists()) throw RuntimeError(Fault::FileNotFound);
   const auto anyWriter =
       QFileDevice::WriteOwner | QFileDevice::WriteGroup | QFileDevice::WriteOther;
@@ -74,19 +98,22 @@ int LinuxMachine::FileAttributes(const QString& sPath) {
 }
 
 void LinuxMachine::WriteFile(const QString& sPath, const QByteArray& bytes) {
-  QFile file(m_paths.Native(sPath));
-  if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Unbuffered) ||
-      file.write(bytes) != bytes.size()) {
-    throw RuntimeError(Fault::FileAccess);
-  }
-  file.close();
-  if (file.error() != QFileDevice::NoError) throw RuntimeError(Fault::FileAccess);
+  QFile file(NativeFile(sPath));
+  std::optional<mode_t> mode;
+  if (m_aDeletedModes.contains(file.fileName())) mode = m_aDeletedModes.take(file.fileName());
+  if (!OpenForWriting(file, mode)) throw RuntimeError(Fault::FileAccess);
+  if (!WriteAll(file, bytes)) throw RuntimeError(Fault::WriteBroken);
 }
 
 void LinuxMachine::DeleteFile(const QString& sPath) {
-  const QString sNative = m_paths.Native(sPath);
-  if (!QFileInfo::exists(sNative)) throw RuntimeError(Fault::FileNotFound);
-  if (!QFile::remove(sNative)) throw RuntimeError(Fault::FileAccess);
+  const QString sNative = NativeFile(sPath);
+  struct stat info {};
+  if (stat(QFile::encodeName(sNative).constData(), &info) != 0) {
+    throw RuntimeError(Fault::FileNotFound);
+  }
+  // Of a link it is the target that goes: the link itself stays, and a later write follows it.
+  if (!QFile::remove(QFileInfo(sNative).canonicalFilePath())) throw RuntimeError(Fault::FileAccess);
+  m_aDeletedModes.insert(sNative, info.st_mode & 07777);
 }
 
 QString LinuxMachine::ExecutableFolder() {
@@ -98,9 +125,11 @@ void LinuxMachine::SetCurrentFolder(const QString& sPath) {
 }
 
 QString LinuxMachine::DocumentsFolder() {
-  const QString sFolder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-  if (sFolder.isEmpty() || !QFileInfo::exists(sFolder)) throw RuntimeError(Fault::PlatformCall);
-  return StationPath(sFolder);
+  const QString sDocuments = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+  for (const QString& sFolder : {sDocuments, qEnvironmentVariable("HOME")}) {
+    if (QFileInfo(sFolder).isDir()) return StationPath(sFolder);
+  }
+  throw RuntimeError(Fault::PlatformCall);
 }
 
 QString LinuxMachine::ReadSetting(Scope scope, const QString& sKey, const QString& sName) {

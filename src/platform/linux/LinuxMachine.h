@@ -2,7 +2,10 @@
 
 // The machine as Linux answers it: everything that needs no window.
 
+#include <sys/types.h>
+
 #include <QDateTime>
+#include <QHash>
 #include <QLibrary>
 
 #include "platform/ConfigurationText.h"
@@ -28,9 +31,7 @@ class LinuxMachine : public Machine {
   QString ExecutableFolder() override;
   void SetCurrentFolder(const QString& sPath) override;
   QString NativePath(const QString& sStationPath) override { return m_paths.Native(sStationPath); }
-  QString StationPath(const QString& sNativePath) override {
-    return LinuxPaths::Station(sNativePath);
-  }
+  QString StationPath(const QString& sNativePath) override { return m_paths.Given(sNativePath); }
   QString DocumentsFolder() override;
   QString ReadSetting(Scope scope, const QString& sKey, const QString& sName) override;
   bool WriteSetting(Scope scope, const QString& sKey, const QString& sName,
@@ -80,8 +81,12 @@ class LinuxMachine : public Machine {
 
   QFunctionPointer FindOperation(const char* sName);
 
+  /// The native path of a file; "" for a name that no file of the station bears.
+  QString NativeFile(const QString& sPath);
+
   LinuxPaths m_paths;
-  ConfigurationText m_configuration;  ///< of the file of m_configurationStamp
+  QHash<QString, mode_t> m_aDeletedModes;  ///< of files deleted and not rewritten, by native path
+  ConfigurationText m_configuration;       ///< of the file of m_configurationStamp
   ReadStamp m_configurationStamp;
   LinuxHid m_hid;
   LinuxInstance m_instance;

@@ -2,12 +2,38 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <algorithm>
 
 #include "platform/FoldCase.h"
 
 namespace glidetrak {
 
 namespace {
+
+/// Characters that a native name can hold and a station path cannot: the backslash parts names, and
+/// double quotes are cut out of the command line.
+struct Substitute {
+  QChar native;
+  QChar station;
+};
+constexpr Substitute Substitutes[] = {{u'"', QChar(0xF022)}, {u'\\', QChar(0xF05C)}};
+
+QString AsSpelt(const QString& sStationPath) {
+  QString sPath = sStationPath;
+  sPath.replace(u'\\', u'/');
+  for (const Substitute& row : Substitutes) sPath.replace(row.station, row.native);
+  return sPath;
+}
+
+bool HasSmallLetter(const QString& sText) {
+  return std::any_of(sText.cbegin(), sText.cend(), [](QChar c) { return c >= u'a' && c <= u'z'; });
+}
+
+/// The file that the command line named by this path, which has come through it in upper case; ""
+/// if none.
+QString NamedFile(const QString& sStationPath) {
+  return HasSmallLetter(sStationPath) ? QString() : aNamedFiles.value(FoldCase(sStationPath));
+}
 
 /// The entry of that folder which has the name but for its case; "" if there is none.
 QString FindEntry(const QString& sFolder, const QString& sName) {
@@ -33,32 +59,46 @@ QString Lookup(const QString& sPath) {
 QString ArgumentText(const QString& sArgument) {
   const QFileInfo file(sArgument);
   if (!file.exists()) return sArgument;
-  const QString sPath = LinuxPaths::Station(QDir::cleanPath(file.absoluteFilePath()));
+  const QString sNative = QDir::cleanPath(file.absoluteFilePath());
+  const QString sPath = LinuxPaths::Station(sNative);
+  aNamedFiles.insert(FoldCase(sPath), sNative);
   return sPath.contains(u' ') ? u'"' + sPath + u'"' : sPath;
 }
 
 }  // namespace
 
 QString LinuxPaths::Native(const QString& sStationPath) {
-  const QString sKey = FoldCase(sStationPath);
-  QString sAsSpelt = sStationPath;
-  sAsSpelt.replace(u'\\', u'/');
-  if (QFileInfo::exists(sAsSpelt)) return Remember(sKey, sAsSpelt);
-  QString sKnown = m_aFound.value(sKey);
-  if (QFileInfo::exists(sKnown)) return sKnown;
+  const QString sKnown = m_aFound.value(sStationPath, NamedFile(sStationPath));
+  if (QFileInfo::exists(sKnown)) return Remember(sStationPath, sKnown);
+  const QString sAsSpelt = AsSpelt(sStationPath);
+  if (QFileInfo::exists(sAsSpelt)) return Remember(sStationPath, sAsSpelt);
+  if (!sKnown.isEmpty()) return sKnown;
   const QString sFound = Lookup(sAsSpelt);
-  if (QFileInfo::exists(sFound)) return Remember(sKey, sFound);
-  return sKnown.isEmpty() ? sFound : sKnown;
+  return QFileInfo::exists(sFound) ? Remember(sStationPath, sFound) : sFound;
 }
 
-QString LinuxPaths::Remember(const QString& sKey, const QString& sNative) {
-  m_aFound.insert(sKey, sNative);
+QString LinuxPaths::Given(const QString& sNative) {
+  const QString sPath = Station(sNative);
+  if (QFileInfo::exists(sNative)) Remember(sPath, sNative);
+  return sPath;
+}
+
+QString LinuxPaths::Remember(const QString& sStationPath, const QString& sNative) {
+  m_aFound.insert(sStationPath, sNative);
   return sNative;
 }
 
 QString LinuxPaths::Station(const QString& sNative) {
   QString sPath = sNative;
+  for (const Substitute& row : Substitutes) sPath.replace(row.native, row.station);
   return sPath.replace(u'/', u'\\');
+}
+
+bool LinuxPaths::IsName(const QString& sStationPath) {
+  const QString sName = sStationPath.mid(sStationPath.lastIndexOf(u'\\') + 1);
+  return std::none_of(std::begin(Substitutes), std::end(Substitutes), [&](const Substitute& row) {
+    return sName.contains(row.native) || sName.contains(row.station);
+  });
 }
 
 QString CommandLine(const QStringList& aArguments) {
