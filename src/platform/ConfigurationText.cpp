@@ -8,6 +8,12 @@ namespace glidetrak {
 
 namespace {
 
+/// Some editors put a mark ahead of the text, which is no part of the first line.
+QByteArrayView WithoutMark(QByteArrayView text) {
+  const QByteArrayView mark = "\xEF\xBB\xBF";
+  return text.startsWith(mark) ? text.sliced(mark.size()) : text;
+}
+
 /// The next line of the bytes, which loses it.
 QByteArrayView TakeLine(QByteArrayView& rest) {
   qsizetype iEnd = 0;
@@ -40,7 +46,7 @@ QByteArrayView WithoutQuotes(QByteArrayView value) {
 }  // namespace
 
 ConfigurationText::ConfigurationText(const QByteArray& bytes) {
-  QByteArrayView rest = bytes;
+  QByteArrayView rest = WithoutMark(bytes);
   QSet<QString> aSections;
   QString sSection;
   bool bInSection = false;

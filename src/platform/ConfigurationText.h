@@ -12,7 +12,8 @@ namespace glidetrak {
 
 /// The values of an INI file's bytes. Section and key match without regard to case and the first
 /// that matches counts, so that a section that comes again is passed over. Blanks around names and
-/// value go, and so does one pair of quotes around the value. Line ends are CR LF, LF or CR.
+/// value go, and so do one pair of quotes around the value and a byte order mark ahead of the text.
+/// Line ends are CR LF, LF or CR.
 class ConfigurationText {
  public:
   explicit ConfigurationText(const QByteArray& bytes = {});

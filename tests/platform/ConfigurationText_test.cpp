@@ -79,6 +79,17 @@ TEST(ConfigurationText, KeyElsewhereIsNone) {
   for (const TextRow& row : rows) Expect(row);
 }
 
+TEST(ConfigurationText, MarkAheadOfTheTextIsNoPartOfIt) {
+  const TextRow rows[] = {
+      {"\xEF\xBB\xBF[S]\r\nK=v\r\n", "v"},
+      {"\xEF\xBB\xBF\r\n[S]\r\nK=v\r\n", "v"},
+      {"\xEF\xBB\xBF", nullptr},
+      {"\xEF\xBB[S]\r\nK=v\r\n", nullptr},
+      {"[S]\r\n\xEF\xBB\xBFK=v\r\n", nullptr},
+  };
+  for (const TextRow& row : rows) Expect(row);
+}
+
 TEST(ConfigurationText, ZeroBytesAreBytesLikeOthers) {
   QByteArray text = "#junk#\r\n[S]\r\n###\r\nK=v#w\r\n";
   text.replace('#', '\0');

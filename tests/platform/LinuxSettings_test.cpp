@@ -2,6 +2,9 @@
 
 #include "platform/linux/LinuxSettings.h"
 
+#include <sys/stat.h>
+#include <unistd.h>
+
 #include <optional>
 
 #include "platform/NativeFolder.h"
@@ -55,6 +58,38 @@ TEST_F(LinuxSettingsTest, MachinesFolderIsTheLastOfItsList) {
   Store(desktop, "[Position]\nLeft=1\n");
   Store(machine, "[Position]\nLeft=2\n");
   EXPECT_EQ(Read(Scope::Machine, "Left"), "2");
+}
+
+TEST_F(LinuxSettingsTest, MachinesFolderIsTheUsualOneWhereverTheListNamesIt) {
+  const struct {
+    const char* sFolders;
+    const char* sFile;
+  } rows[] = {
+      {"/etc/xdg", "/etc/xdg/Torvane/Glidetrak.conf"},
+      {"/etc/xdg:/opt/a/etc/xdg", "/etc/xdg/Torvane/Glidetrak.conf"},
+      {"/opt/a/etc/xdg:/etc/xdg/:/opt/b", "/etc/xdg/Torvane/Glidetrak.conf"},
+      {"/opt/a:/opt/b", "/opt/b/Torvane/Glidetrak.conf"},
+      {"", "/etc/xdg/Torvane/Glidetrak.conf"},
+  };
+  for (const auto& row : rows) {
+    qputenv("XDG_CONFIG_DIRS", row.sFolders);
+    EXPECT_EQ(SettingsFile(Scope::Machine), row.sFile) << row.sFolders;
+  }
+}
+
+TEST_F(LinuxSettingsTest, UsersFolderIsNeverTheMachines) {
+  qputenv("XDG_CONFIG_HOME", "/etc/xdg");
+  EXPECT_EQ(SettingsFile(Scope::Machine), machine.Path("Torvane/Glidetrak.conf"));
+}
+
+TEST_F(LinuxSettingsTest, PipeInPlaceOfTheFileHoldsNothingUp) {
+  QDir(user.Path()).mkdir("Torvane");
+  ASSERT_EQ(mkfifo(qPrintable(user.Path("Torvane/Glidetrak.conf")), 0600), 0);
+  alarm(10);  // ends a process that waits for the other end
+  EXPECT_EQ(Read(Scope::User, "Left"), "");
+  EXPECT_FALSE(Write(Scope::User, "Left", "300"));
+  EXPECT_EQ(LinuxSettings(Scope::User).Number(sTorvane, "UILanguage"), std::nullopt);
+  alarm(0);
 }
 
 TEST_F(LinuxSettingsTest, ScopesDoNotFallBackOnEachOther) {

@@ -4,10 +4,15 @@
 // machine. The last name of a key's path is the group in the file.
 
 #include <QSettings>
+#include <optional>
 
 #include "platform/Platform.h"
 
 namespace glidetrak {
+
+/// The scope's file. The machine's stands in /etc/xdg where the list of the machine's folders names
+/// it, else in the last folder of that list.
+QString SettingsFile(Scope scope);
 
 class LinuxSettings {
  public:
@@ -21,7 +26,7 @@ class LinuxSettings {
  private:
   QString FindName(const QString& sName) const;
 
-  QSettings m_settings;
+  std::optional<QSettings> m_settings;  ///< none where what stands in its place is no file
 };
 
 }  // namespace glidetrak
