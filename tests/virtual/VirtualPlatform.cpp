@@ -106,7 +106,10 @@ QByteArray VirtualPlatform::ReadFile(const QString& sPath) {
 }
 
 void VirtualPlatform::WriteFile(const QString& sPath, const QByteArray& bytes) {
-  if (aUnwritable.contains(sPath.toUpper())) throw RuntimeError(Fault::FileAccess);
+  const auto found = m_aFiles.constFind(sPath.toUpper());
+  const bool bFolder = found != m_aFiles.constEnd() && (found->iAttributes & attrFolder) != 0;
+  if (bFolder) throw RuntimeError(Fault::FileAccess);
+  if (aUnwritable.contains(sPath.toUpper())) throw RuntimeError(Fault::WriteBroken);
   AddFile(sPath, bytes);
 }
 
