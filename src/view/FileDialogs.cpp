@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QLineEdit>
 
 #include "platform/Platform.h"
 #include "view/FileColumns.h"
@@ -11,6 +12,33 @@
 namespace glidetrak {
 
 namespace {
+
+/// The toolkit takes a text with double quotes for a list of names, and so for other files than the
+/// one that was typed; the station takes a backslash for the end of a folder. A text with either is
+/// taken here as the one name that it is.
+class NameDialog : public QFileDialog {
+ public:
+  using QFileDialog::QFileDialog;
+
+  QFileInfo Chosen() const {
+    return m_sTyped.isEmpty() ? QFileInfo(selectedFiles().constFirst())
+                              : QFileInfo(directory().filePath(m_sTyped));
+  }
+
+ protected:
+  void accept() override {
+    const QString sText = findChild<QLineEdit*>("fileNameEdit")->text();
+    if (!sText.contains(u'"') && !sText.contains(u'\\')) {
+      QFileDialog::accept();
+      return;
+    }
+    m_sTyped = QFileInfo(sText).suffix().isEmpty() ? sText + u'.' + defaultSuffix() : sText;
+    QDialog::accept();
+  }
+
+ private:
+  QString m_sTyped;  ///< with the default extension where it had none; "" for all other names
+};
 
 /// The texts of the filter; each ends in its own pattern, which is where the toolkit reads it.
 QStringList NameFilters(const QString& sFilter) {
@@ -53,10 +81,10 @@ void TakeName(FileDialog& dialog, const QFileInfo& chosen) {
   }
 }
 
-void Run(QFileDialog& box, FileDialog& dialog) {
+void Run(NameDialog& box, FileDialog& dialog) {
   Prepare(box, dialog);
   if (box.exec() == QDialog::Accepted) {
-    TakeName(dialog, QFileInfo(box.selectedFiles().constFirst()));
+    TakeName(dialog, box.Chosen());
     return;
   }
   dialog.FileName.clear();
@@ -66,7 +94,7 @@ void Run(QFileDialog& box, FileDialog& dialog) {
 
 void ShowOpen(FileDialog& dialog, QWidget* pWindow) {
   InstallToolkitTexts();
-  QFileDialog box(pWindow);
+  NameDialog box(pWindow);
   box.setAcceptMode(QFileDialog::AcceptOpen);
   box.setFileMode((dialog.Flags & dlgFileMustExist) != 0 ? QFileDialog::ExistingFile
                                                          : QFileDialog::AnyFile);
@@ -76,7 +104,7 @@ void ShowOpen(FileDialog& dialog, QWidget* pWindow) {
 /// New names are welcome whatever the flags say.
 void ShowSave(FileDialog& dialog, QWidget* pWindow) {
   InstallToolkitTexts();
-  QFileDialog box(pWindow);
+  NameDialog box(pWindow);
   box.setAcceptMode(QFileDialog::AcceptSave);
   box.setFileMode(QFileDialog::AnyFile);
   Run(box, dialog);
