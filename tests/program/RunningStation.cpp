@@ -230,8 +230,19 @@ bool RunningStation::HasNoWindow(const QString& sTitle) {
 }
 
 QString RunningStation::Geometry(const QString& sTitle) {
-  const QString sWindow =
-      Output("xdotool", {"search", "--onlyvisible", "--name", sTitle}).section(u'\n', 0, 0);
+  return Geometries(sTitle).value(0);
+}
+
+QStringList RunningStation::Geometries(const QString& sTitle) {
+  QStringList aGeometries;
+  const QString sWindows = Output("xdotool", {"search", "--onlyvisible", "--name", sTitle});
+  for (const QString& sWindow : sWindows.split(u'\n', Qt::SkipEmptyParts)) {
+    aGeometries.append(WindowGeometry(sWindow));
+  }
+  return aGeometries;
+}
+
+QString RunningStation::WindowGeometry(const QString& sWindow) {
   const QString sShell = Output("xdotool", {"getwindowgeometry", "--shell", sWindow});
   QStringList aValues;
   for (const QString& sLine : sShell.split(u'\n')) {

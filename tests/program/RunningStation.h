@@ -136,6 +136,8 @@ class RunningStation {
   bool HasNoWindow(const QString& sTitle);
   /// "x y width height" of the window of that title.
   QString Geometry(const QString& sTitle);
+  /// The same of each such window, without waiting.
+  QStringList Geometries(const QString& sTitle);
   /// The colour of that point of the screen, "#RRGGBB".
   QString ColourAt(Place place);
   /// Waits until that point has that colour; false after five seconds.
@@ -164,6 +166,7 @@ class RunningStation {
  private:
   QString Output(const QString& sProgram, const QStringList& aArguments);
   QString MainWindow();
+  QString WindowGeometry(const QString& sWindow);
   bool WaitForDisplay();
 
   const QString m_sStation;

@@ -4,6 +4,8 @@
 
 #include <QDir>
 #include <QFile>
+#include <array>
+#include <csignal>
 
 #include "RunningStation.h"
 
@@ -22,12 +24,47 @@ void Leave(RunningStation& station) {
   ASSERT_TRUE(station.WaitForEnd());
 }
 
+/// Waits for that many windows of the station, of whatever kind; false after a minute.
+bool HasWindows(RunningStation& station, int iWindows) {
+  for (int i = 0; i < 120 && station.Geometries(sTitle).size() < iWindows; ++i) Wait(500);
+  return station.Geometries(sTitle).size() == iWindows;
+}
+
 QByteArray Placement(int iLeft, int iTop) {
   return "[Position]\nLeft=" + QByteArray::number(iLeft) + "\nTop=" + QByteArray::number(iTop) +
          "\nWidth=14400\nHeight=9705\nState=0\n";
 }
 
 }  // namespace
+
+TEST(StartAgain, AKilledStationKeepsNobodyOut) {
+  RunningStation station;
+  ASSERT_TRUE(station.Start());
+  kill(static_cast<pid_t>(station.Pid()), SIGKILL);
+  ASSERT_TRUE(station.WaitForEnd());
+  ASSERT_TRUE(station.Start());
+  EXPECT_EQ(station.Geometry(sTitle), "0 0 960 647");
+  QProcess second;
+  ASSERT_TRUE(station.StartSecondCopy(second));
+  EXPECT_TRUE(HasWindows(station, 2)) << "its own and the second copy's message";
+}
+
+TEST(StartAgain, OfTwentyCopiesStartedAtOnceOneRunsAndTheOthersSaySo) {
+  RunningStation station;
+  std::array<QProcess, 20> aCopies;
+  for (QProcess& copy : aCopies) ASSERT_TRUE(station.StartSecondCopy(copy));
+  EXPECT_TRUE(HasWindows(station, 20));
+  Wait(7000);  // until the start-up box has gone
+  station.Picture("twenty-copies");
+  const QStringList aGeometries = station.Geometries(sTitle);
+  EXPECT_EQ(aGeometries.size(), 20);
+  EXPECT_EQ(aGeometries.filter(" 960 647").size(), 1);
+  for (QProcess& copy : aCopies) {
+    EXPECT_EQ(copy.state(), QProcess::Running);
+    copy.kill();
+    copy.waitForFinished();
+  }
+}
 
 TEST(StartAgain, AMovedWindowStandsWhereItWas) {
   RunningStation station;
