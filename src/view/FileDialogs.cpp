@@ -33,7 +33,7 @@ class NameDialog : public QFileDialog {
       return;
     }
     m_sTyped = QFileInfo(sText).suffix().isEmpty() ? sText + u'.' + defaultSuffix() : sText;
-    QDialog::accept();
+    done(Accepted);
   }
 
  private:

@@ -68,7 +68,7 @@ QString ArgumentText(const QString& sArgument) {
 }  // namespace
 
 QString LinuxPaths::Native(const QString& sStationPath) {
-  const QString sKnown = m_aFound.value(sStationPath, NamedFile(sStationPath));
+  QString sKnown = m_aFound.value(sStationPath, NamedFile(sStationPath));
   if (QFileInfo::exists(sKnown)) return Remember(sStationPath, sKnown);
   const QString sAsSpelt = AsSpelt(sStationPath);
   if (QFileInfo::exists(sAsSpelt)) return Remember(sStationPath, sAsSpelt);
@@ -78,7 +78,7 @@ QString LinuxPaths::Native(const QString& sStationPath) {
 }
 
 QString LinuxPaths::Given(const QString& sNative) {
-  const QString sPath = Station(sNative);
+  QString sPath = Station(sNative);
   if (QFileInfo::exists(sNative)) Remember(sPath, sNative);
   return sPath;
 }

@@ -12,7 +12,7 @@ namespace {
 /// of it and a distribution some of its own behind it, so that it is known by its name, and only a
 /// list without it is taken to end in it.
 QString MachineFolder(const QStringList& aFolders) {
-  const QString sUsual = "/etc/xdg";
+  QString sUsual = "/etc/xdg";
   for (const QString& sFolder : aFolders) {
     if (QDir::cleanPath(sFolder) == sUsual) return sUsual;
   }
