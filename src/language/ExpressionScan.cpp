@@ -31,9 +31,7 @@ QString CharAt(const Scan& scan) {
 }
 
 bool FailOnCharacter(const QString& sCharacter) {
-  ShowMessage(LoadText(519) + sCharacter + u'\'', LoadText(iProgramErrorTitle),
-              BoxIcon::Exclamation);
-  return false;
+  return FailWith(LoadText(519) + sCharacter + u'\'');
 }
 
 /// Where an operand is awaited the position does not move, so the same + is read again for ever

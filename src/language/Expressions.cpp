@@ -36,9 +36,7 @@ bool Assign(const QString& sText) {
 
 bool RefuseLet(bool bHasKeyword) {
   if (!bHasKeyword) return FailWith(511);
-  ShowMessage(LoadText(512) + "\r\n" + LoadText(513), LoadText(iProgramErrorTitle),
-              BoxIcon::Exclamation);
-  return false;
+  return FailWith(LoadText(512) + "\r\n" + LoadText(513));
 }
 
 bool CarryOutLet(const QString& sText, bool bHasKeyword) {

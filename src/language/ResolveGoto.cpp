@@ -19,7 +19,7 @@ LineResult ReportMissingLabel(const QString& sName) {
   txtProgram.Visible = true;
   txtFocusGrab.SetFocus();
   ShowMessage(LoadText(505) + LowerCase(sName) + LoadText(506), Word(Keyword::Goto),
-              BoxIcon::Exclamation);
+              BoxIcon::Exclamation, BoxPlace::TopBand);
   bProgramRunning = false;
   return LineResult::Stopped;
 }

@@ -160,6 +160,9 @@ enum class BoxIcon { Exclamation, Information, Warning, Question };
 enum class BoxButtons { Ok, YesNo };
 enum class BoxAnswer { Ok, Yes, No };
 
+/// Where a box stands on the main window. Over the top band it leaves the editor to be seen.
+enum class BoxPlace { Middle, TopBand };
+
 /// Screen pixels; right and bottom are one behind the last.
 struct PixelRect {
   qint32 lLeft = 0, lTop = 0, lRight = 0, lBottom = 0;
@@ -174,7 +177,7 @@ class Desktop {
 
   /// A modal box; returns when the user has closed it. Other events go on meanwhile.
   virtual BoxAnswer ShowBox(const QString& sText, const QString& sTitle, BoxIcon icon,
-                            BoxButtons buttons) = 0;
+                            BoxButtons buttons, BoxPlace place = BoxPlace::Middle) = 0;
 
   /// The system's default beep.
   virtual void Beep() = 0;

@@ -4,12 +4,12 @@
 
 namespace glidetrak {
 
-void ShowMessage(int iText, int iTitle, BoxIcon icon) {
-  ShowMessage(LoadText(iText), LoadText(iTitle), icon);
+void ShowMessage(int iText, int iTitle, BoxIcon icon, BoxPlace place) {
+  ShowMessage(LoadText(iText), LoadText(iTitle), icon, place);
 }
 
-void ShowMessage(const QString& sText, const QString& sTitle, BoxIcon icon) {
-  pDesktop->ShowBox(sText, sTitle, icon, BoxButtons::Ok);
+void ShowMessage(const QString& sText, const QString& sTitle, BoxIcon icon, BoxPlace place) {
+  pDesktop->ShowBox(sText, sTitle, icon, BoxButtons::Ok, place);
 }
 
 bool AskYesNo(const QString& sText, const QString& sTitle) {

@@ -9,10 +9,11 @@
 namespace glidetrak {
 
 /// A box with OK, text and title by their ids.
-void ShowMessage(int iText, int iTitle, BoxIcon icon);
+void ShowMessage(int iText, int iTitle, BoxIcon icon, BoxPlace place = BoxPlace::Middle);
 
 /// A box with OK and a text put together by the caller.
-void ShowMessage(const QString& sText, const QString& sTitle, BoxIcon icon);
+void ShowMessage(const QString& sText, const QString& sTitle, BoxIcon icon,
+                 BoxPlace place = BoxPlace::Middle);
 
 /// A box with Yes and No and the question icon; true for Yes.
 bool AskYesNo(const QString& sText, const QString& sTitle);

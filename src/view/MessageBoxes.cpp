@@ -2,9 +2,14 @@
 
 #include <QKeyEvent>
 #include <QMessageBox>
+#include <QScreen>
+#include <QShowEvent>
+#include <algorithm>
 
+#include "form/frmGlidetrak.h"
 #include "view/MainWindow.h"
 #include "view/ToolkitTexts.h"
+#include "view/Units.h"
 
 namespace glidetrak {
 
@@ -20,6 +25,43 @@ class QuestionBox : public QMessageBox {
     if (!pEvent->matches(QKeySequence::Cancel)) QMessageBox::keyPressEvent(pEvent);
   }
   void closeEvent(QCloseEvent* pEvent) override { pEvent->ignore(); }
+};
+
+/// The top band on the screen: what stands above the panels and the editor.
+QRect TopBand() {
+  const QRect band = PlaceOf(picHardware);
+  return {MainWindow()->Client()->mapToGlobal(band.topLeft()), band.size()};
+}
+
+/// The frame that the system puts around a window; the main window has it already.
+QSize FrameSize() {
+  return MainWindow()->frameGeometry().size() - MainWindow()->geometry().size();
+}
+
+/// The place of a box of that size, frame included.
+QPoint PlaceOverTopBand(QSize size) {
+  const QRect band = TopBand();
+  const QRect screen = MainWindow()->screen()->availableGeometry();
+  QRect box({}, size);
+  box.moveCenter(band.center());
+  box.moveBottom(std::min(box.bottom(), band.bottom()));
+  box.moveRight(std::min(box.right(), screen.right()));
+  box.moveBottom(std::min(box.bottom(), screen.bottom()));
+  box.moveLeft(std::max(box.left(), screen.left()));
+  box.moveTop(std::max(box.top(), screen.top()));
+  return box.topLeft();
+}
+
+/// A box knows its size when it is about to show, and not before.
+class ErrorBox : public QMessageBox {
+ public:
+  using QMessageBox::QMessageBox;
+
+ protected:
+  void showEvent(QShowEvent* pEvent) override {
+    QMessageBox::showEvent(pEvent);
+    if (!pEvent->spontaneous()) move(PlaceOverTopBand(size() + FrameSize()));
+  }
 };
 
 QMessageBox::Icon IconOf(BoxIcon icon) {
@@ -63,12 +105,17 @@ QWidget* Owner() {
 }  // namespace
 
 BoxAnswer ShowMessageBox(const QString& sText, const QString& sTitle, BoxIcon icon,
-                         BoxButtons buttons) {
+                         BoxButtons buttons, BoxPlace place) {
   InstallToolkitTexts();
   if (buttons == BoxButtons::YesNo) {
     QuestionBox box(Owner());
     Prepare(box, sText, sTitle, icon);
     return Ask(box);
+  }
+  if (place == BoxPlace::TopBand && Owner() != nullptr) {
+    ErrorBox box(Owner());
+    Prepare(box, sText, sTitle, icon);
+    return Tell(box);
   }
   QMessageBox box(Owner());
   Prepare(box, sText, sTitle, icon);

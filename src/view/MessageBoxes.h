@@ -6,8 +6,9 @@
 
 namespace glidetrak {
 
-/// Shows a modal box over the active window and returns the button that closed it.
+/// Shows a modal box over the main window and returns the button that closed it. A box over the top
+/// band stands in its middle and does not reach below it, unless the screen has no room above.
 BoxAnswer ShowMessageBox(const QString& sText, const QString& sTitle, BoxIcon icon,
-                         BoxButtons buttons);
+                         BoxButtons buttons, BoxPlace place);
 
 }  // namespace glidetrak

@@ -12,8 +12,8 @@ namespace glidetrak {
 class ViewDesktop : public Desktop {
  public:
   void PumpEvents() override;
-  BoxAnswer ShowBox(const QString& sText, const QString& sTitle, BoxIcon icon,
-                    BoxButtons buttons) override;
+  BoxAnswer ShowBox(const QString& sText, const QString& sTitle, BoxIcon icon, BoxButtons buttons,
+                    BoxPlace place = BoxPlace::Middle) override;
   void Beep() override;
 
   std::optional<PixelRect> NearestMonitor() override;

@@ -15,8 +15,8 @@ void ViewDesktop::PumpEvents() {
 }
 
 BoxAnswer ViewDesktop::ShowBox(const QString& sText, const QString& sTitle, BoxIcon icon,
-                               BoxButtons buttons) {
-  return ShowMessageBox(sText, sTitle, icon, buttons);
+                               BoxButtons buttons, BoxPlace place) {
+  return ShowMessageBox(sText, sTitle, icon, buttons, place);
 }
 
 void ViewDesktop::Beep() {

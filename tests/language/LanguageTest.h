@@ -30,12 +30,13 @@ class LanguageTest : public ::testing::Test {
     return CompileProgram();
   }
 
-  /// Each box has the language's title, and that icon.
+  /// Each box has the language's title and that icon, and leaves the editor to be seen.
   void ExpectProgramErrorBoxes(BoxIcon icon = BoxIcon::Exclamation) {
     for (const VirtualBox& box : station.platform.aBoxes) {
       EXPECT_EQ(box.sTitle, "Control Program Error");
       EXPECT_EQ(box.icon, icon);
       EXPECT_EQ(box.buttons, BoxButtons::Ok);
+      EXPECT_EQ(box.place, BoxPlace::TopBand);
     }
   }
 

@@ -128,6 +128,7 @@ TEST_F(ResolveGoto, TellsOfAMissingLabelInLowerCase) {
     const VirtualBox& box = station.platform.aBoxes[0];
     EXPECT_EQ(box.sText, QString("The Label '") + row.sName + "' does not exist");
     EXPECT_EQ(box.sTitle, "GOTO");
+    EXPECT_EQ(box.place, BoxPlace::TopBand);
     EXPECT_EQ(box.icon, BoxIcon::Exclamation);
   }
 }

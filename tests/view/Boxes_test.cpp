@@ -3,7 +3,9 @@
 #include <QApplication>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScreen>
 #include <QTimer>
+#include <string>
 
 #include "view/ViewTest.h"
 
@@ -88,6 +90,50 @@ TEST_F(Boxes, QuestionsHaveNoEscapeAndNoClose) {
     Press(pBox, QMessageBox::Yes);
   });
   EXPECT_EQ(answer, BoxAnswer::Yes);
+}
+
+struct BandRow {
+  QPoint window;
+  float fBandHeight;  ///< twips
+};
+
+/// The screen here is 800 by 800, and the band is 600 wide.
+const BandRow BandRows[] = {
+    {{100, 100}, 3000}, {{0, 0}, 3000},     {{100, 100}, 1800},  {{-500, 100}, 3000},
+    {{700, 100}, 3000}, {{100, 720}, 3000}, {{100, -150}, 3000},
+};
+
+TEST_F(Boxes, OfAnErrorStandOverTheTopBandAndOnTheScreen) {
+  ViewTest::Show();
+  const QRect screen = MainWindow()->screen()->availableGeometry();
+  picHardware.Width = 9000;
+  for (const BandRow& row : BandRows) {
+    picHardware.Height = row.fBandHeight;
+    MainWindow()->move(row.window);
+    Settle();
+    QRect box;
+    QTimer::singleShot(0, MainWindow(), [&] {
+      Settle();
+      box = QApplication::activeModalWidget()->frameGeometry();
+      QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Return);
+    });
+    m_desktop.ShowBox("text", "title", BoxIcon::Exclamation, BoxButtons::Ok, BoxPlace::TopBand);
+    const QWidget* pBand = Widget("picHardware");
+    const QRect band(pBand->mapToGlobal(QPoint(0, 0)), pBand->size());
+    const auto sRow = "row " + std::to_string(&row - BandRows);
+    EXPECT_TRUE(screen.contains(box)) << sRow;
+    if (!screen.contains(band)) continue;
+    EXPECT_LE(box.bottom(), band.bottom()) << sRow;
+    EXPECT_NEAR(box.center().x(), band.center().x(), 1) << sRow;
+  }
+}
+
+TEST_F(Boxes, OfAnErrorStandAnywhereWhileTheWindowIsHidden) {
+  QTimer::singleShot(0, MainWindow(),
+                     [] { QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Return); });
+  EXPECT_EQ(
+      m_desktop.ShowBox("text", "title", BoxIcon::Exclamation, BoxButtons::Ok, BoxPlace::TopBand),
+      BoxAnswer::Ok);
 }
 
 TEST_F(Boxes, LetEverythingElseGoOn) {

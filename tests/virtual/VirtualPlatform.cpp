@@ -212,9 +212,9 @@ BoxAnswer VirtualPlatform::NextAnswer(BoxButtons buttons) {
 }
 
 BoxAnswer VirtualPlatform::ShowBox(const QString& sText, const QString& sTitle, BoxIcon icon,
-                                   BoxButtons buttons) {
+                                   BoxButtons buttons, BoxPlace place) {
   const BoxAnswer answer = NextAnswer(buttons);
-  aBoxes.push_back({sText, sTitle, icon, buttons, answer, lNow});
+  aBoxes.push_back({sText, sTitle, icon, buttons, answer, lNow, place});
   if (OnBox) OnBox(aBoxes.back());
   ++iOpenBoxes;
   RunFor(iBoxMilliseconds);

@@ -27,6 +27,7 @@ struct VirtualBox {
   BoxButtons buttons;
   BoxAnswer answer;
   qint64 lTime;  ///< virtual milliseconds at which it opened
+  BoxPlace place;
 };
 
 class VirtualPlatform : public Machine, public Desktop {
@@ -133,8 +134,8 @@ class VirtualPlatform : public Machine, public Desktop {
   qint32 CallTrackport(const char* sOperation, std::initializer_list<qint32> arguments) override;
 
   void PumpEvents() override;
-  BoxAnswer ShowBox(const QString& sText, const QString& sTitle, BoxIcon icon,
-                    BoxButtons buttons) override;
+  BoxAnswer ShowBox(const QString& sText, const QString& sTitle, BoxIcon icon, BoxButtons buttons,
+                    BoxPlace place = BoxPlace::Middle) override;
   void Beep() override;
   std::optional<PixelRect> NearestMonitor() override { return monitor; }
   std::optional<PixelRect> WorkArea() override { return workArea; }
