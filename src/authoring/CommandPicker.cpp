@@ -49,7 +49,7 @@ void SwallowChange(int& iKey) {
 }  // namespace
 
 void ShowCommandPicker() {
-  if (bProgramRunning) return;
+  if (bProgramRunning || bRunUnderWay) return;
   SetProgramControls(false);
   pnlCommandSel.Visible = true;
   pnlCommandSel.Enabled = true;

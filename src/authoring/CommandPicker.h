@@ -26,7 +26,8 @@ void BuildCommandCatalogue();
 void AddCatalogueEntry(const QString& sText, const QString& sDescription, const QString& sFormat,
                        const QString& sExample, bool bIsSensor);
 
-/// Opens the panel on the first entry. Nothing while a program runs.
+/// Opens the panel on the first entry. Nothing until RunProgram or StepProgram has returned: a run
+/// that winds down would unlock the program's controls under the open panel.
 void ShowCommandPicker();
 void CloseCommandPicker();
 

@@ -1,5 +1,7 @@
 #include "language/RunControl.h"
 
+#include <QScopedValueRollback>
+
 #include "common/DelayMilliseconds.h"
 #include "common/SharedState.h"
 #include "common/SkipOnError.h"
@@ -85,6 +87,7 @@ LineResult StepOneLine() {
 
 void RunProgram() {
   if (bProgramRunning) return;
+  const QScopedValueRollback underWay(bRunUnderWay, true);
   try {
     RunLocked();
   } catch (const RuntimeError&) {
@@ -114,6 +117,7 @@ void ReportRunError() {
 
 void StepProgram() {
   if (bProgramRunning) return;
+  const QScopedValueRollback underWay(bRunUnderWay, true);
   bProgramRunning = true;
   SetRunMenus(false);
   screen.MousePointer = ptrHourglass;

@@ -35,6 +35,10 @@ namespace glidetrak {
 /// it to 0.
 inline qint32 lCurrentLine = 0;
 
+/// RunProgram or StepProgram has not returned: a program runs, or winds down with bProgramRunning
+/// already off. What would lock the screen itself must wait, since the end of the run unlocks it.
+inline bool bRunUnderWay = false;
+
 /// PrepareTrace has done its work; false after a new or loaded program.
 inline bool bTraceArmed = false;
 

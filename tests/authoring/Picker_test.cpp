@@ -60,6 +60,30 @@ TEST_F(PickerTest, DoesNotOpenWhileAProgramRuns) {
   for (const Control* pControl : aLocked) EXPECT_TRUE(pControl->Enabled);
 }
 
+/// What winds down still holds the screen, and unlocks it at its end.
+TEST_F(PickerTest, StaysClosedUntilAStoppedRunHasEnded) {
+  station.After(500, [this] { station.Click("btnStopProg"); });
+  station.After(1200, [] {
+    EXPECT_FALSE(bProgramRunning);
+    ShowCommandPicker();
+    EXPECT_FALSE(pnlCommandSel.Visible);
+  });
+  station.RunProgram("WAIT 2000");
+  ShowCommandPicker();
+  EXPECT_TRUE(pnlCommandSel.Visible);
+}
+
+TEST_F(PickerTest, StaysClosedUntilAStoppedTraceStepHasEnded) {
+  station.SetProgram("WAIT 2000");
+  station.After(500, [this] { station.Click("btnStopProg"); });
+  station.After(1200, [this] { station.Click("cmdProgCommands"); });
+  station.Click("cmdSingleStep");
+  EXPECT_FALSE(pnlCommandSel.Visible);
+  EXPECT_TRUE(btnStopProg.Enabled) << "nothing may run with Stop out of reach";
+  station.Click("cmdProgCommands");
+  EXPECT_TRUE(pnlCommandSel.Visible);
+}
+
 TEST_F(PickerTest, ClosesWithoutATrace) {
   for (const char* sName : {"btnCloseComSel", "imgAddCmdClose"}) {
     ShowCommandPicker();
