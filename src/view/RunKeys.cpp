@@ -5,6 +5,7 @@
 #include "common/SharedState.h"
 #include "form/frmGlidetrak.h"
 #include "view/Fire.h"
+#include "view/FormWindow.h"
 #include "view/KeyCodes.h"
 
 namespace glidetrak {
@@ -18,15 +19,27 @@ void FirePress(const QKeyEvent& event) {
   if (iCharacter != 0 && bProgramRunning) Fire(frmGlidetrak.KeyPress, iCharacter);
 }
 
+/// A release that nobody swallows goes on from the focused widget to the panels behind it, and
+/// comes by here each time; it is told once.
+bool ReleaseSeen(const QWidget& widget, const QKeyEvent& event) {
+  const QWidget* pFocus = widget.window()->focusWidget();
+  if (&widget != (pFocus ? pFocus : widget.window())) return false;
+  int iKeyCode = VirtualKeyCode(event);
+  if (iKeyCode == 0) return false;
+  Fire(frmGlidetrak.KeyUp, iKeyCode);
+  return iKeyCode == 0;
+}
+
 }  // namespace
 
-RunKeys::RunKeys(QWidget* pWindow) : QObject(pWindow), m_pWindow(pWindow) {
+RunKeys::RunKeys(QObject* pOwner) : QObject(pOwner) {
   qApp->installEventFilter(this);
 }
 
 bool RunKeys::eventFilter(QObject* pWatched, QEvent* pEvent) {
   if (!bProgramRunning || !pWatched->isWidgetType()) return false;
-  if (static_cast<QWidget*>(pWatched)->window() != m_pWindow) return false;
+  const auto* pWidget = static_cast<QWidget*>(pWatched);
+  if (dynamic_cast<FormWindow*>(pWidget->window()) == nullptr) return false;
   switch (pEvent->type()) {
     case QEvent::ShortcutOverride:
       pEvent->accept();  // the key comes as a key and not as a menu's shortcut
@@ -35,21 +48,10 @@ bool RunKeys::eventFilter(QObject* pWatched, QEvent* pEvent) {
       FirePress(static_cast<QKeyEvent&>(*pEvent));
       return true;
     case QEvent::KeyRelease:
-      return ReleaseSeen(pWatched, static_cast<QKeyEvent&>(*pEvent));
+      return ReleaseSeen(*pWidget, static_cast<QKeyEvent&>(*pEvent));
     default:
       return false;
   }
-}
-
-/// A release that nobody swallows goes on from the focused widget to the panels behind it, and
-/// comes by here each time; it is told once.
-bool RunKeys::ReleaseSeen(const QObject* pWatched, const QKeyEvent& event) const {
-  const QWidget* pFocus = m_pWindow->focusWidget();
-  if (pWatched != (pFocus ? pFocus : m_pWindow)) return false;
-  int iKeyCode = VirtualKeyCode(event);
-  if (iKeyCode == 0) return false;
-  Fire(frmGlidetrak.KeyUp, iKeyCode);
-  return iKeyCode == 0;
 }
 
 }  // namespace glidetrak

@@ -143,6 +143,17 @@ TEST_F(Keys, ABoxMaySwallowThem) {
   EXPECT_EQ(txtHELPExample.Text(), "a");
 }
 
+TEST_F(Keys, OfTheStartUpBoxAreTheRunsToo) {
+  ShowRunning();
+  frmAbout.Show();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(AboutWindow()));
+  QTest::keyClick(AboutWindow()->windowHandle(), Qt::Key_7);
+  m_iStopKey = 32;
+  QTest::keyPress(AboutWindow()->windowHandle(), Qt::Key_Space);
+  EXPECT_EQ(m_aNotes, QStringList({"down 55", "press 55", "up 55", "down 32"}));
+  EXPECT_FALSE(bProgramRunning);
+}
+
 TEST_F(Keys, OfOtherWindowsAreTheirOwnDuringARun) {
   ShowRunning();
   QLineEdit other;
