@@ -160,8 +160,14 @@ void MakeControls(std::span<const ControlRow> rows, QWidget* pClient, FocusKeepe
 }
 
 void WireControl(QWidget* pWidget, Control& control, FocusKeeper& focus) {
-  Observe(pWidget, control.Visible, [pWidget, &control] { pWidget->setVisible(control.Visible); });
-  Observe(pWidget, control.Enabled, [pWidget, &control] { pWidget->setEnabled(control.Enabled); });
+  Observe(pWidget, control.Visible, [pWidget, &control, &focus] {
+    if (!control.Visible) focus.TakeFrom(pWidget);
+    pWidget->setVisible(control.Visible);
+  });
+  Observe(pWidget, control.Enabled, [pWidget, &control, &focus] {
+    if (!control.Enabled) focus.TakeFrom(pWidget);
+    pWidget->setEnabled(control.Enabled);
+  });
   Observe(pWidget, control.ToolTipText,
           [pWidget, &control] { pWidget->setToolTip(PlainTip(control.ToolTipText)); });
   ObservePointer(MouseArea(pWidget), control);

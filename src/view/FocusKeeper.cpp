@@ -1,11 +1,26 @@
 #include "view/FocusKeeper.h"
 
 #include <QApplication>
+#include <QMenuBar>
 #include <utility>
 
+#include "form/frmGlidetrak.h"
 #include "view/Fire.h"
 
 namespace glidetrak {
+
+namespace {
+
+bool CanTakeFocus(const QWidget* pWidget) {
+  return pWidget != nullptr && pWidget->isVisible() && pWidget->isEnabled();
+}
+
+/// Whether it is the widget itself or stands in it.
+bool BelongsTo(const QWidget* pWidget, const QWidget* pWhole) {
+  return pWidget == pWhole || pWhole->isAncestorOf(pWidget);
+}
+
+}  // namespace
 
 /// The window is asked, not the signal: it remembers its focus while another window is active.
 FocusKeeper::FocusKeeper(QWidget* pWindow) : QObject(pWindow), m_pWindow(pWindow) {
@@ -15,15 +30,31 @@ FocusKeeper::FocusKeeper(QWidget* pWindow) : QObject(pWindow), m_pWindow(pWindow
 /// While another window is active no focus signal comes, hence the update by hand.
 void FocusKeeper::Watch(QWidget* pWidget, Control& control) {
   m_aControls.insert(pWidget, &control);
+  if (&control == &txtFocusGrab) m_pGrab = pWidget;
   control.SetFocus = [this, pWidget] {
-    if (!pWidget->isVisible() || !pWidget->isEnabled()) return;
+    if (!CanTakeFocus(pWidget)) return;
     pWidget->setFocus(Qt::OtherFocusReason);
     Update();
   };
 }
 
+/// The window's own focus, also where a pop-up has the keyboard: it comes back to that.
+void FocusKeeper::TakeFrom(QWidget* pWidget) {
+  QWidget* pFocus = m_pWindow->focusWidget();
+  if (pFocus == nullptr || !BelongsTo(pFocus, pWidget)) return;
+  if (CanTakeFocus(m_pGrab) && !BelongsTo(m_pGrab, pWidget)) {
+    m_pGrab->setFocus(Qt::OtherFocusReason);
+  } else {
+    pFocus->clearFocus();
+  }
+  Update();
+}
+
+/// Worked by keys, the menu bar is the window's focus until it gives it back.
 void FocusKeeper::Update() {
-  Control* pNow = m_aControls.value(m_pWindow->focusWidget());
+  const QWidget* pFocus = m_pWindow->focusWidget();
+  if (qobject_cast<const QMenuBar*>(pFocus) != nullptr) return;
+  Control* pNow = m_aControls.value(pFocus);
   if (pNow == m_pHolder) return;
   Control* pBefore = std::exchange(m_pHolder, pNow);
   if (pBefore) Fire(pBefore->LostFocus);

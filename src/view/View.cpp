@@ -44,6 +44,11 @@ void OrderOverlaps() {
   }
 }
 
+/// Tab out of the editor finds no button or list that the next keys would operate.
+void OrderTabs() {
+  QWidget::setTabOrder(Widget("txtProgram"), Widget("txtFocusGrab"));
+}
+
 void BuildMainForm() {
   pMainWindow = new FormWindow(frmGlidetrak, "frmGlidetrak", nullptr);
   qAddPostRoutine(DestroyView);
@@ -51,6 +56,7 @@ void BuildMainForm() {
   FillMenuBar(pMainWindow->menuBar());
   MakeControls(MainFormTable(), pMainWindow->Client(), *new FocusKeeper(pMainWindow));
   OrderOverlaps();
+  OrderTabs();
   pMainWindow->FitClient();
   new RunKeys(pMainWindow);
   new EmergencyRoads(pMainWindow);
