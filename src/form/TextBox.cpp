@@ -32,8 +32,9 @@ void TextBox::Select(int iStart, int iLength) {
 }
 
 void TextBox::ReplaceSelection(const QString& sText) {
-  Splice(m_iSelStart, m_iSelLength, sText);
-  TextSet();
+  const int iStart = m_iSelStart;
+  Splice(iStart, m_iSelLength, sText);
+  TextReplaced(iStart, sText);
   Change();
 }
 

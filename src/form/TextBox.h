@@ -42,8 +42,9 @@ class TextBox : public Control {
 
   Event<> Change;
 
-  Method<> TextSet;               ///< the station changed the text
-  Method<int, int> SelectionSet;  ///< the station set the selection: start, length
+  Method<> TextSet;                   ///< the station set the whole text
+  Method<int, QString> TextReplaced;  ///< the station replaced a stretch: its start, the new text
+  Method<int, int> SelectionSet;      ///< the station set the selection: start, length
 
  private:
   void Splice(int iStart, int iRemoved, const QString& sInserted);

@@ -7,9 +7,11 @@
 #include <QTextBlock>
 #include <utility>
 
+#include "common/SharedState.h"
 #include "common/SkipOnError.h"
 #include "view/EditorText.h"
 #include "view/EventRelay.h"
+#include "view/Observe.h"
 #include "view/ToolkitTexts.h"
 
 namespace glidetrak {
@@ -55,7 +57,11 @@ ProgramEditor::ProgramEditor(TextBox& box, QWidget* pParent) : QPlainTextEdit(pP
   connect(this, &QPlainTextEdit::cursorPositionChanged, this, [this] { TellSelection(); });
   connect(this, &QPlainTextEdit::selectionChanged, this, [this] { TellSelection(); });
   box.TextSet = [this] { FollowText(); };
+  box.TextReplaced = [this](int iStart, const QString& sInserted) {
+    FollowReplacement(iStart, sInserted);
+  };
   box.SelectionSet = [this](int, int) { MarkSelection(); };
+  ObserveChanges(this, bProgramRunning, [this] { ObeyLock(); });
   Fill();
 }
 
@@ -67,6 +73,32 @@ void ProgramEditor::FollowText() {
   } else {
     Fill();
   }
+}
+
+void ProgramEditor::FollowReplacement(int iStart, const QString& sInserted) {
+  const bool bShowsAll = m_bComplete && !m_bTelling && !m_bStale;
+  if (!bShowsAll || !PutIn(iStart, sInserted)) FollowText();
+  MarkSelection();
+}
+
+/// What lies behind the replaced stretch tells where it ended. False where the widget then shows
+/// another text: the replacement has parted a line end, made one, or a line too long to be shown.
+bool ProgramEditor::PutIn(int iStart, const QString& sInserted) {
+  const QScopedValueRollback applying(m_bApplying, true);
+  const auto iInserted = static_cast<int>(sInserted.size());
+  const int iFrom = DocumentPosition(m_box.LineStarts(), iStart);
+  const int iEnd = DocumentPosition(m_box.LineStarts(), iStart + iInserted);
+  const int iTo = DocumentLength() - (ShownLength() - iEnd);
+  if (iTo < iFrom || ShowableEnd(m_box) != m_box.Text().size()) return false;
+  QTextCursor cursor(document());
+  cursor.setPosition(iFrom);
+  cursor.setPosition(iTo, QTextCursor::KeepAnchor);
+  cursor.beginEditBlock();
+  cursor.removeSelectedText();
+  InsertShown(cursor, sInserted);
+  cursor.endEditBlock();
+  return document()->blockCount() == m_box.LineCount() &&
+         StationText(*document(), 0, DocumentLength()) == m_box.Text();
 }
 
 void ProgramEditor::Fill() {
@@ -90,9 +122,9 @@ void ProgramEditor::FillSlice() {
   InsertShown(cursor, QStringView(sText).mid(m_iFilled, iEnd - m_iFilled));
   cursor.endEditBlock();
   m_iFilled = iEnd;
-  const bool bComplete = m_iFilled == sText.size();
-  setReadOnly(!bComplete);
-  setUndoRedoEnabled(bComplete);
+  m_bComplete = m_iFilled == sText.size();
+  ObeyLock();
+  setUndoRedoEnabled(m_bComplete);
   if (m_iFilled < m_iShowable) {
     FollowLater();
   } else if (m_bSelectionCut) {
@@ -129,6 +161,13 @@ void ProgramEditor::MendStale() {
   Fill();
   ApplySelection();
   verticalScrollBar()->setValue(iScroll);
+}
+
+/// A read-only editor takes no key, no input method, no paste, cut or drop, and offers none in its
+/// menu; disabled, it would lose the focus, which a Trace step leaves where it is.
+void ProgramEditor::ObeyLock() {
+  const bool bLocked = !m_bComplete || bProgramRunning;
+  if (isReadOnly() != bLocked) setReadOnly(bLocked);
 }
 
 /// A run selects a line for every statement: the widget follows once per return to the event loop.
@@ -207,6 +246,27 @@ void ProgramEditor::keyPressEvent(QKeyEvent* pEvent) {
   }
   textCursor().insertBlock();
   ensureCursorVisible();
+}
+
+/// The toolkit would take it in a read-only editor too.
+void ProgramEditor::inputMethodEvent(QInputMethodEvent* pEvent) {
+  if (isReadOnly()) {
+    pEvent->ignore();
+  } else {
+    QPlainTextEdit::inputMethodEvent(pEvent);
+  }
+}
+
+/// A press into the selection begins a new one, as it does beside it: the toolkit would take it for
+/// the beginning of a drag and move the text.
+void ProgramEditor::mousePressEvent(QMouseEvent* pEvent) {
+  const bool bExtends = pEvent->modifiers() == Qt::ShiftModifier;
+  QTextCursor cursor = textCursor();
+  if (pEvent->button() == Qt::LeftButton && !bExtends && cursor.hasSelection()) {
+    cursor.clearSelection();
+    setTextCursor(cursor);
+  }
+  QPlainTextEdit::mousePressEvent(pEvent);
 }
 
 /// A hand that trembles on the second press must not drag the selection off the line that the

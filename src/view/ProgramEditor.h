@@ -14,6 +14,12 @@ namespace glidetrak {
 /// complete the user can read and scroll, but not edit. A text with a line of more than 50,000
 /// characters is shown up to there, for reading only.
 ///
+/// What the station puts into the place of the selection is an edit like the user's: it can be
+/// undone, and the place to which the user has scrolled stays.
+///
+/// While a program runs, a Trace step included, nothing that the user does changes the text;
+/// reading, marking and copying go on. Text is never moved by dragging.
+///
 /// Where an edit makes a bare CR and a bare LF neighbours, the station has a line end more than the
 /// widget shows; the widget is then stale and filled anew before it takes another event.
 class ProgramEditor : public QPlainTextEdit {
@@ -25,6 +31,8 @@ class ProgramEditor : public QPlainTextEdit {
   bool viewportEvent(QEvent* pEvent) override;
   void contextMenuEvent(QContextMenuEvent* pEvent) override;
   void keyPressEvent(QKeyEvent* pEvent) override;
+  void inputMethodEvent(QInputMethodEvent* pEvent) override;
+  void mousePressEvent(QMouseEvent* pEvent) override;
   void mouseMoveEvent(QMouseEvent* pEvent) override;
   void mouseDoubleClickEvent(QMouseEvent* pEvent) override;
   void mouseReleaseEvent(QMouseEvent* pEvent) override;
@@ -34,6 +42,8 @@ class ProgramEditor : public QPlainTextEdit {
  private:
   // The station's text to the widget.
   void FollowText();
+  void FollowReplacement(int iStart, const QString& sInserted);
+  bool PutIn(int iStart, const QString& sInserted);
   void Fill();
   void FillSlice();
   void FollowLater();
@@ -41,6 +51,7 @@ class ProgramEditor : public QPlainTextEdit {
   void CatchUp();
   void MarkStale();
   void MendStale();
+  void ObeyLock();
 
   // The selection, either way.
   void MarkSelection();
@@ -57,6 +68,7 @@ class ProgramEditor : public QPlainTextEdit {
   TextBox& m_box;
   qsizetype m_iShowable = 0;        ///< so much of the station's text the widget can show
   qsizetype m_iFilled = 0;          ///< so much of the station's text is in the widget
+  bool m_bComplete = false;         ///< the widget holds the whole text
   bool m_bFollowPosted = false;     ///< a turn of Follow will come
   bool m_bStale = false;            ///< the widget no longer shows the station's text
   bool m_bSelectionMarked = false;  ///< the station's selection will be applied

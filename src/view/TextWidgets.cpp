@@ -23,6 +23,7 @@ QWidget* MakeLine(TextBox& box, QWidget* pParent) {
   pWidget->setFrame(false);
   pWidget->setAttribute(Qt::WA_InputMethodEnabled, false);
   box.TextSet = [pWidget, &box] { pWidget->setText(box.Text()); };
+  box.TextReplaced = [pWidget, &box](int, const QString&) { pWidget->setText(box.Text()); };
   QObject::connect(pWidget, &QLineEdit::textEdited, pWidget, [&box](const QString& sText) {
     SkipOnError([&] { box.UserEdit(0, static_cast<int>(box.Text().size()), sText); });
   });

@@ -137,10 +137,14 @@ TEST(TextBoxUserEdit, PutsTheCaretBehindWhatWasTyped) {
 struct Notices {
   int iChanges = 0;
   int iTextSets = 0;
+  QStringList aReplacements;
 
   explicit Notices(TextBox& box) {
     box.Change = [this] { ++iChanges; };
     box.TextSet = [this] { ++iTextSets; };
+    box.TextReplaced = [this](int iStart, const QString& sText) {
+      aReplacements.append(QString("%1 %2").arg(iStart).arg(sText));
+    };
   }
 };
 
@@ -197,11 +201,12 @@ TEST(TextBoxChange, DoesNotSendTheUsersEditBackToTheView) {
 TEST(TextBoxChange, ComesWithAReplacedSelection) {
   TextBox box;
   box.SetText("ABC");
-  box.Select(0, 1);
+  box.Select(1, 1);
   Notices notices(box);
-  box.ReplaceSelection("x");
+  box.ReplaceSelection("xy");
   EXPECT_EQ(notices.iChanges, 1);
-  EXPECT_EQ(notices.iTextSets, 1);
+  EXPECT_EQ(notices.iTextSets, 0);
+  EXPECT_EQ(notices.aReplacements, QStringList{"1 xy"});
 }
 
 }  // namespace

@@ -3,6 +3,9 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QDrag>
+#include <QScrollBar>
+#include <QTimer>
 
 #include "view/EditorTest.h"
 
@@ -91,6 +94,85 @@ TEST_F(Editing, AReplacedSelectionShowsInTheWidget) {
   Settle();
   EXPECT_EQ(Editor()->textCursor().position(), 9);
   ExpectInStep();
+}
+
+TEST_F(Editing, AReplacedSelectionCanBeUndoneAndWhatWasTypedBeforeItToo) {
+  Start("one two\r\nthree", 7);
+  Type("!");
+  txtProgram.Select(4, 4);
+  txtProgram.ReplaceSelection("HALT\r\n");
+  ExpectInStep();
+  EXPECT_EQ(txtProgram.Text(), "one HALT\r\n\r\nthree");
+  Editor()->undo();
+  EXPECT_EQ(txtProgram.Text(), "one two!\r\nthree");
+  Editor()->undo();
+  EXPECT_EQ(txtProgram.Text(), "one two\r\nthree");
+  Editor()->redo();
+  Editor()->redo();
+  EXPECT_EQ(txtProgram.Text(), "one HALT\r\n\r\nthree");
+  ExpectInStep();
+}
+
+TEST_F(Editing, AReplacedSelectionLeavesTheScrollPlace) {
+  QString sText;
+  for (int i = 0; i < 200; ++i) sText += "BEEP\r\n";
+  Start(sText, 600);
+  QScrollBar* pBar = Editor()->verticalScrollBar();
+  pBar->setValue(pBar->value() + 5);
+  const int iScroll = pBar->value();
+  txtProgram.ReplaceSelection("HALT\r\n");
+  txtProgram.Select(600, 6);
+  Settle();
+  EXPECT_EQ(pBar->value(), iScroll);
+}
+
+/// Where the new text parts or makes a line end the widget is filled anew, and then has no undo.
+TEST_F(Editing, AReplacedSelectionMayPartOrMakeALineEnd) {
+  const struct {
+    const char* sText;
+    int iStart, iLength;
+    const char* sNew;
+    const char* sExpected;
+  } Rows[] = {
+      {"A\r\nB", 2, 0, "X", "A\rX\nB"},     {"A\rX\nB", 2, 1, "", "A\r\nB"},
+      {"A\r\nB", 0, 2, "X", "X\nB"},        {"A\nB", 1, 0, "\r", "A\r\nB"},
+      {"A\r\nB", 2, 1, "\r\n", "A\r\r\nB"}, {"A\r\nB\r\n", 0, 6, "", ""},
+  };
+  Start("");
+  for (const auto& row : Rows) {
+    txtProgram.SetText(row.sText);
+    txtProgram.Select(row.iStart, row.iLength);
+    txtProgram.ReplaceSelection(row.sNew);
+    EXPECT_EQ(txtProgram.Text(), row.sExpected);
+    ExpectInStep();
+  }
+}
+
+TEST_F(Editing, TextIsNotDragged) {
+  Start("one two three", 4, 3);
+  QWidget* pPage = Editor()->viewport();
+  QTextCursor inside(Editor()->document());
+  inside.setPosition(5);
+  const QPoint place = Editor()->cursorRect(inside).center();
+  QTimer::singleShot(200, pPage, [] { QDrag::cancel(); });
+  Press(pPage, place);
+  EXPECT_EQ(txtProgram.SelStart(), 5);
+  EXPECT_EQ(txtProgram.SelLength(), 0);
+  inside.setPosition(10);
+  Move(pPage, Editor()->cursorRect(inside).center(), Qt::LeftButton);
+  Release(pPage, Editor()->cursorRect(inside).center());
+  EXPECT_EQ(txtProgram.SelText(), "wo th") << "a new selection, and no drag";
+  EXPECT_EQ(txtProgram.Text(), "one two three");
+}
+
+TEST_F(Editing, ThreePressesSelectTheLine) {
+  Start("one two\r\nthree");
+  const QPoint place = Editor()->cursorRect().center() + QPoint(3, 0);
+  DoubleClick(Editor()->viewport(), place);
+  EXPECT_EQ(txtProgram.SelText(), "one");
+  Press(Editor()->viewport(), place);
+  Release(Editor()->viewport(), place);
+  EXPECT_EQ(txtProgram.SelText(), "one two\r\n");
 }
 
 TEST_F(Editing, TheStationMaySetTheTextWhileItHearsOfAnEdit) {
