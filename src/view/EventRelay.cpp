@@ -69,6 +69,17 @@ bool FireKey(const KeyEvent& event, int iCode) {
   return iCode == 0;
 }
 
+/// With Ctrl it is a key like others.
+bool MovesFocus(const QKeyEvent& event) {
+  const bool bTab = event.key() == Qt::Key_Tab || event.key() == Qt::Key_Backtab;
+  return bTab && !(event.modifiers() & (Qt::ControlModifier | Qt::AltModifier));
+}
+
+bool IsControlCharacter(int iCode) {
+  constexpr int iBlank = 32;
+  return iCode > 0 && iCode < iBlank;
+}
+
 }  // namespace
 
 bool IsMouseEvent(const QEvent& event) {
@@ -102,9 +113,11 @@ void RelayMouse(Control& control, const QWidget& widget, const QMouseEvent& even
 bool RelayKey(Control& control, const QKeyEvent& event) {
   const int iKeyCode = VirtualKeyCode(event);
   if (event.type() == QEvent::KeyRelease) return FireKey(control.KeyUp, iKeyCode);
+  if (MovesFocus(event)) return false;
+  const int iCharacter = CharacterCode(event);
   const bool bDownSwallowed = FireKey(control.KeyDown, iKeyCode);
-  const bool bPressSwallowed = FireKey(control.KeyPress, CharacterCode(event));
-  return bDownSwallowed || bPressSwallowed;
+  const bool bPressSwallowed = FireKey(control.KeyPress, iCharacter);
+  return bPressSwallowed || (bDownSwallowed && !IsControlCharacter(iCharacter));
 }
 
 void RelayPassive(QWidget* pWidget, Control& control) {

@@ -14,7 +14,10 @@ namespace glidetrak {
 /// one pressed or released, or the one held during a move.
 void RelayMouse(Control& control, const QWidget& widget, const QMouseEvent& event);
 
-/// Fires the control's key events; true when the control swallows the key.
+/// Fires the control's key events; true when the control swallows the key, be it by KeyDown or by
+/// KeyPress. A control character (Enter, Escape, Ctrl+C) is swallowed by KeyPress alone: what
+/// KeyDown hears of Ctrl+C is the letter's code. Tab moves the focus before a control sees it as a
+/// key.
 bool RelayKey(Control& control, const QKeyEvent& event);
 
 /// Whether it is one of the four mouse events.
