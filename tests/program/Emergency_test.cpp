@@ -11,7 +11,6 @@ namespace {
 constexpr int iStopped = 0x10;  ///< power 0, direction forward
 
 constexpr Place placeFileMenu{20, 9};
-constexpr Place placeTrace{898, 448};
 
 class EmergencyKey : public testing::TestWithParam<const char*> {};
 

@@ -36,6 +36,7 @@ constexpr Place placeTimingToggle{61, 340};
 constexpr Place placeEditor{720, 450};
 constexpr Place placeShowPresets{898, 313};
 constexpr Place placeCommands{898, 419};
+constexpr Place placeTrace{898, 448};
 constexpr Place placeRun{898, 477};
 constexpr Place placeStop{898, 505};
 constexpr Place placeProgramMenu{93, 9};
