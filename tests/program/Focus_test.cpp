@@ -9,7 +9,14 @@ namespace glidetrak {
 namespace {
 
 const QByteArray driveText = "POWER 8\r\nLABEL AGAIN\r\nGOTO AGAIN\r\n";
+const QByteArray badText = "BEEP\r\nNONSENSE\r\n";
 constexpr int iBandFoot = 254;  ///< the top band's last pixel at the first size
+constexpr int iTitleBar = 20;   ///< that the window manager puts above a window
+
+/// A place of the window where it has a title bar.
+Place BelowTitleBar(Place place) {
+  return {place.iX, place.iY + iTitleBar};
+}
 
 /// By keys, so that the mouse moves over nothing.
 void ChooseRunEntry(RunningStation& station, Place menu = placeProgramMenu) {
@@ -25,6 +32,19 @@ void ExpectRunAndStop(RunningStation& station) {
   EXPECT_TRUE(station.RigShows("power 8"));
   station.Click(placeStop);
   EXPECT_TRUE(station.RigShows("power 0"));
+}
+
+/// The box of the program's error, on the screen and above the editor.
+void ExpectBoxOverBand(RunningStation& station, int iShift) {
+  const QString sTitle = "^Control Program Error$";
+  ASSERT_TRUE(station.HasWindow(sTitle));
+  Wait(300);
+  station.Picture(iShift == 0 ? "error-box" : "error-box-framed");
+  const QStringList aPlace = station.Geometry(sTitle).split(u' ');
+  ASSERT_EQ(aPlace.size(), 4);
+  EXPECT_GE(aPlace[0].toInt(), 0);
+  EXPECT_GE(aPlace[1].toInt(), iShift);
+  EXPECT_LE(aPlace[1].toInt() + aPlace[3].toInt(), iBandFoot + iShift);
 }
 
 }  // namespace
@@ -93,8 +113,7 @@ TEST(KeyRoad, TheStartUpBoxKeepsNoKeyFromAProgram) {
   ASSERT_TRUE(station.Launch({station.WriteProgram("get.gtp", text)}));
   ASSERT_TRUE(station.HasWindow("^ $"));
   Wait(500);
-  constexpr int iTitleBar = 20;
-  ChooseRunEntry(station, {placeProgramMenu.iX, placeProgramMenu.iY + iTitleBar});
+  ChooseRunEntry(station, BelowTitleBar(placeProgramMenu));
   const QStringList aBox = station.Geometry("^ $").split(u' ');
   ASSERT_EQ(aBox.size(), 4);
   station.Click({aBox[0].toInt() + 40, aBox[1].toInt() + 40});
@@ -108,16 +127,19 @@ TEST(KeyRoad, TheStartUpBoxKeepsNoKeyFromAProgram) {
 
 TEST(KeyRoad, AnErrorLeavesItsLineToBeSeen) {
   RunningStation station;
-  ASSERT_TRUE(station.Start({station.WriteProgram("bad.gtp", "BEEP\r\nNONSENSE\r\n")}));
+  ASSERT_TRUE(station.Start({station.WriteProgram("bad.gtp", badText)}));
   station.Click(placeProgram);
   station.Click(placeRun);
-  ASSERT_TRUE(station.HasWindow("^Control Program Error$"));
-  station.Picture("error-box");
-  const QStringList aPlace = station.Geometry("^Control Program Error$").split(u' ');
-  ASSERT_EQ(aPlace.size(), 4);
-  EXPECT_GE(aPlace[0].toInt(), 0);
-  EXPECT_GE(aPlace[1].toInt(), 0);
-  EXPECT_LE(aPlace[1].toInt() + aPlace[3].toInt(), iBandFoot);
+  ExpectBoxOverBand(station, 0);
+}
+
+TEST(KeyRoad, AnErrorLeavesItsLineToBeSeenWhereWindowsHaveTitleBars) {
+  RunningStation station;
+  ASSERT_TRUE(station.StartWindowManager());
+  ASSERT_TRUE(station.Start({station.WriteProgram("bad.gtp", badText)}));
+  station.Click(BelowTitleBar(placeProgram));
+  station.Click(BelowTitleBar(placeRun));
+  ExpectBoxOverBand(station, iTitleBar);
 }
 
 }  // namespace glidetrak

@@ -78,6 +78,7 @@ TEST_F(EditorInRun, ShowsNoInputMethodsDraft) {
     EXPECT_EQ(Editor()->document()->firstBlock().layout()->preeditAreaText(), "");
     EXPECT_FALSE(Editor()->testAttribute(Qt::WA_InputMethodEnabled));
   });
+  EXPECT_TRUE(Editor()->testAttribute(Qt::WA_InputMethodEnabled));
 }
 
 TEST_F(EditorInRun, TakesNoKeys) {
