@@ -11,39 +11,66 @@ namespace glidetrak {
 
 namespace {
 
-/// String ids; an example has up to three lines, 0 for none.
+/// An example has up to three lines; idNoText stands for none.
 struct HelpRow {
   Keyword keyword;
-  int iFormat;
-  int iDescription;
-  int aExample[3];
+  TextId idFormat;
+  TextId idDescription;
+  TextId aExample[3];
 };
 
 /// In the order of CommandNameRows. ENDIF has the example of IF, and LIGHT_SENSOR pairs the test
 /// for ON with a text about the night: both deliberate.
 constexpr std::array HelpRows{
-    HelpRow{Keyword::AirportCall, 455, 454, {456, 457, 421}},
-    HelpRow{Keyword::Backward, 444, 443, {445}},
-    HelpRow{Keyword::Beep, 432, 431, {433}},
-    HelpRow{Keyword::Break, 406, 405, {407}},
-    HelpRow{Keyword::CityCall, 451, 450, {452, 453, 421}},
-    HelpRow{Keyword::EndIf, 423, 422, {419, 420, 421}},
-    HelpRow{Keyword::Forward, 441, 440, {442}},
-    HelpRow{Keyword::Get, 429, 428, {430}},
-    HelpRow{Keyword::Goto, 412, 411, {413}},
-    HelpRow{Keyword::Halt, 438, 437, {439}},
-    HelpRow{Keyword::If, 418, 417, {419, 420, 421}},
-    HelpRow{Keyword::Label, 409, 408, {410}},
-    HelpRow{Keyword::Let, 415, 414, {416}},
-    HelpRow{Keyword::LightSensor, 459, 458, {460, 420, 421}},
-    HelpRow{Keyword::Power, 435, 434, {436}},
-    HelpRow{Keyword::Print, 401, 400, {402, 403, 404}},
-    HelpRow{Keyword::SoundSensor, 473, 472, {474, 475, 421}},
-    HelpRow{Keyword::StartButton, 447, 446, {448, 449, 421}},
-    HelpRow{Keyword::TimeGateA, 462, 461, {463, 464, 421}},
-    HelpRow{Keyword::TimeGateB, 466, 465, {467, 468, 421}},
-    HelpRow{Keyword::TimeReset, 470, 469, {471}},
-    HelpRow{Keyword::Wait, 426, 425, {427}},
+    HelpRow{Keyword::AirportCall,
+            idFormatAirportCall,
+            idDescribeAirportCall,
+            {idExampleAirportCall1, idExampleAirportCall2, idExampleEndIf}},
+    HelpRow{Keyword::Backward, idFormatBackward, idDescribeBackward, {idExampleBackward}},
+    HelpRow{Keyword::Beep, idFormatBeep, idDescribeBeep, {idExampleBeep}},
+    HelpRow{Keyword::Break, idFormatBreak, idDescribeBreak, {idExampleBreak}},
+    HelpRow{Keyword::CityCall,
+            idFormatCityCall,
+            idDescribeCityCall,
+            {idExampleCityCall1, idExampleCityCall2, idExampleEndIf}},
+    HelpRow{Keyword::EndIf,
+            idFormatEndIf,
+            idDescribeEndIf,
+            {idExampleIf, idExampleNight, idExampleEndIf}},
+    HelpRow{Keyword::Forward, idFormatForward, idDescribeForward, {idExampleForward}},
+    HelpRow{Keyword::Get, idFormatGet, idDescribeGet, {idExampleGet}},
+    HelpRow{Keyword::Goto, idFormatGoto, idDescribeGoto, {idExampleGoto}},
+    HelpRow{Keyword::Halt, idFormatHalt, idDescribeHalt, {idExampleHalt}},
+    HelpRow{Keyword::If, idFormatIf, idDescribeIf, {idExampleIf, idExampleNight, idExampleEndIf}},
+    HelpRow{Keyword::Label, idFormatLabel, idDescribeLabel, {idExampleLabel}},
+    HelpRow{Keyword::Let, idFormatLet, idDescribeLet, {idExampleLet}},
+    HelpRow{Keyword::LightSensor,
+            idFormatLightSensor,
+            idDescribeLightSensor,
+            {idExampleLightSensor, idExampleNight, idExampleEndIf}},
+    HelpRow{Keyword::Power, idFormatPower, idDescribePower, {idExamplePower}},
+    HelpRow{Keyword::Print,
+            idFormatPrint,
+            idDescribePrint,
+            {idExamplePrint1, idExamplePrint2, idExamplePrint3}},
+    HelpRow{Keyword::SoundSensor,
+            idFormatSoundSensor,
+            idDescribeSoundSensor,
+            {idExampleSoundSensor1, idExampleSoundSensor2, idExampleEndIf}},
+    HelpRow{Keyword::StartButton,
+            idFormatStartButton,
+            idDescribeStartButton,
+            {idExampleStartButton1, idExampleStartButton2, idExampleEndIf}},
+    HelpRow{Keyword::TimeGateA,
+            idFormatTimeGateA,
+            idDescribeTimeGateA,
+            {idExampleTimeGateA1, idExampleTimeGateA2, idExampleEndIf}},
+    HelpRow{Keyword::TimeGateB,
+            idFormatTimeGateB,
+            idDescribeTimeGateB,
+            {idExampleTimeGateB1, idExampleTimeGateB2, idExampleEndIf}},
+    HelpRow{Keyword::TimeReset, idFormatTimeReset, idDescribeTimeReset, {idExampleTimeReset}},
+    HelpRow{Keyword::Wait, idFormatWait, idDescribeWait, {idExampleWait}},
 };
 
 constexpr bool InStep() {
@@ -57,8 +84,8 @@ static_assert(InStep(), "the help belongs to the names row by row");
 
 QString ExampleText(const HelpRow& row) {
   QStringList aLines;
-  for (const int iLine : row.aExample) {
-    if (iLine != 0) aLines.append(LoadText(iLine));
+  for (const TextId id : row.aExample) {
+    if (id != idNoText) aLines.append(LoadText(id));
   }
   return aLines.join("\r\n");
 }
@@ -72,7 +99,7 @@ void BuildCommandCatalogue() {
     const HelpRow& row = HelpRows[i];
     const CommandNameRow& name = CommandNameRows[i];
     AddCatalogueEntry(Word(name.keyword) + (name.bTakesArgument ? " " : ""),
-                      LoadText(row.iDescription), LoadText(row.iFormat), ExampleText(row),
+                      LoadText(row.idDescription), LoadText(row.idFormat), ExampleText(row),
                       name.bIsSensor);
   }
 }

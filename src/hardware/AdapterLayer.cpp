@@ -106,7 +106,7 @@ bool DetectAdapter() {
   try {
     return FindAdapter();
   } catch (const RuntimeError&) {
-    ShowMessage(72, 70, BoxIcon::Warning);
+    ShowMessage(idUnableToCommunicate, idHardwareCommunication, BoxIcon::Warning);
     bLinkUp = false;
     return false;
   }
@@ -141,7 +141,7 @@ void WriteOutputPort() {
 
 void ShowLinkState() {
   if (bLinkUp == bLinkUpShown) return;
-  lblHWState.Caption = LoadText(bLinkUp ? 280 : 281);
+  lblHWState.Caption = LoadText(bLinkUp ? idInterfaceDetected : idInterfaceNotDetected);
   bLinkUpShown = bLinkUp;
   tmrReconnect.Enabled = !bLinkUp;
 }
@@ -151,7 +151,7 @@ void HandleLinkLost() {
   ShowLinkState();
   tmrReconnect.Enabled = true;
   if (bLinkMessageShown) return;
-  ShowMessage(LoadText(75), sFileDescription, BoxIcon::Warning);
+  ShowMessage(LoadText(idCommunicationNotAvailable), sFileDescription, BoxIcon::Warning);
   bLinkMessageShown = true;
 }
 

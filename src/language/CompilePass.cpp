@@ -30,8 +30,8 @@ struct Pass {
   bool bOk = true;
 };
 
-void Report(Pass& pass, int iMessage) {
-  pass.bOk = FailWith(iMessage);
+void Report(Pass& pass, TextId id) {
+  pass.bOk = FailWith(id);
 }
 
 bool BeginsWith(const QString& sLine, Keyword keyword) {
@@ -61,7 +61,7 @@ QString ReadLine(const ProgramLine& line) {
 
 void OpenIf(Pass& pass) {
   if (pass.bInIf) {
-    Report(pass, 501);
+    Report(pass, idNestedIf);
     return;
   }
   pass.bInIf = true;
@@ -71,7 +71,7 @@ void OpenIf(Pass& pass) {
 /// The pending index starts at 0, so that an ENDIF without any IF writes into line 0: harmless, as
 /// the compile has failed, but this is the order.
 void PairEndIf(Pass& pass) {
-  if (!pass.bInIf) Report(pass, 502);
+  if (!pass.bInIf) Report(pass, idIfWithoutEndIf);
   pass.bInIf = false;
   if (pass.lPendingIf < 0) return;
   LineTable.at(static_cast<size_t>(pass.lPendingIf)).lTargetLine = pass.lIndex;
@@ -86,7 +86,7 @@ bool CheckHead(Pass& pass, const QString& sLine) {
     PairEndIf(pass);
   } else if (BeginsWith(sLine, Keyword::Label)) {
     if (sLine.size() > Word(Keyword::Label).size()) return true;
-    Report(pass, 504);
+    Report(pass, idLabelWithoutName);
   }
   return false;
 }
@@ -107,7 +107,7 @@ void CompileLine(Pass& pass) {
   const bool bIsLabel = CheckHead(pass, sLine);
   bool bEndsInQuotes = false;
   const QString sText = NormaliseLine(sLine, bIsPrint, bEndsInQuotes);
-  if (bIsPrint && bEndsInQuotes && pass.bOk) Report(pass, 507);
+  if (bIsPrint && bEndsInQuotes && pass.bOk) Report(pass, idPrintQuotes);
   line.sText = sText;
   if (bIsLabel) StoreLabel(pass, sText);
 }
@@ -138,7 +138,7 @@ bool RunPass() {
     if (!pass.bOk) break;
     Advance(pass);
   } while (!PastEnd(pass));
-  if (PastEnd(pass) && pass.bInIf) Report(pass, 502);
+  if (PastEnd(pass) && pass.bInIf) Report(pass, idIfWithoutEndIf);
   return pass.bOk;
 }
 
@@ -150,7 +150,7 @@ bool CompileProgram() {
   try {
     bOk = RunPass();
   } catch (const RuntimeError&) {
-    bOk = FailWith(521);
+    bOk = FailWith(idCompileError);
   }
   bNeedCompile = !bOk;
   return bOk;

@@ -31,7 +31,7 @@ QString CharAt(const Scan& scan) {
 }
 
 bool FailOnCharacter(const QString& sCharacter) {
-  return FailWith(LoadText(519) + sCharacter + u'\'');
+  return FailWith(LoadText(idUnrecognizedCharacter) + sCharacter + u'\'');
 }
 
 /// Where an operand is awaited the position does not move, so the same + is read again for ever
@@ -64,7 +64,7 @@ bool TakeLiteral(Scan& scan) {
   const qint16 iValue = CheckedInt16(qint64{CharCode(sCharacter[0])} * scan.iSign);
   lExprResult = CheckedInt32(qint64{lExprResult} + iValue);
   ++scan.i;
-  if (CharAt(scan) != u"'") return FailWith(517);
+  if (CharAt(scan) != u"'") return FailWith(idInvalidLiteral);
   ++scan.i;
   return true;
 }
@@ -94,7 +94,7 @@ bool TakeVariable(Scan& scan) {
 }
 
 bool TakeOperand(Scan& scan, const QString& sCharacter) {
-  if (scan.iSign == iOperandRead) return FailWith(518);
+  if (scan.iSign == iOperandRead) return FailWith(idOperatorExpected);
   if (!sCharacter.isEmpty() && IsDigit(sCharacter[0])) return TakeNumber(scan);
   if (!sCharacter.isEmpty() && IsLetter(sCharacter[0])) return TakeVariable(scan);
   return FailOnCharacter(sCharacter);
@@ -137,14 +137,14 @@ bool EvaluateExpression(const QString& sText) {
   }
 }
 
-int OperandErrorMessage(const RuntimeError& error) {
+TextId OperandErrorMessage(const RuntimeError& error) {
   switch (error.fault()) {
     case Fault::DivisionByZero:
-      return 514;
+      return idDivisionByZero;
     case Fault::Overflow:
-      return 515;
+      return idResultTooLarge;
     default:
-      return 516;
+      return idEquationError;
   }
 }
 

@@ -35,12 +35,12 @@ bool Assign(const QString& sText) {
 }
 
 bool RefuseLet(bool bHasKeyword) {
-  if (!bHasKeyword) return FailWith(511);
-  return FailWith(LoadText(512) + "\r\n" + LoadText(513));
+  if (!bHasKeyword) return FailWith(idUnrecognized);
+  return FailWith(LoadText(idInvalidLet) + "\r\n" + LoadText(idLetExample));
 }
 
 bool CarryOutLet(const QString& sText, bool bHasKeyword) {
-  if (TrimBlanks(sText).isEmpty()) return FailWith(512);
+  if (TrimBlanks(sText).isEmpty()) return FailWith(idInvalidLet);
   if (IsAssignment(sText)) return Assign(sText);
   if (IsPortBitLet(sText)) return ExecutePortBitLet(sText);
   return RefuseLet(bHasKeyword);
@@ -52,7 +52,7 @@ bool IsComparison(const QString& sText) {
 
 bool ExecuteComparison(const QString& sText) {
   const auto end = std::find_if_not(sText.begin() + 1, sText.end(), IsRelation);
-  if (end == sText.end()) return FailWith(503);
+  if (end == sText.end()) return FailWith(idInvalidIf);
   const qsizetype iEnd = end - sText.begin();
   if (!EvaluateExpression(sText.mid(iEnd))) return false;
   CompareVariable(sText.mid(1, iEnd - 1), SlotOf(CharCode(sText[0])), bIfCondition);
@@ -76,7 +76,7 @@ bool ExecuteLet(const QString& sText, bool bHasKeyword) {
   try {
     return CarryOutLet(sText, bHasKeyword);
   } catch (const RuntimeError&) {
-    return FailWith(511);
+    return FailWith(idUnrecognized);
   }
 }
 
@@ -86,13 +86,13 @@ void SkipIfBody() {
 }
 
 bool ExecuteIf(const QString& sText) {
-  if (bInIfBlock) return FailWith(502);
+  if (bInIfBlock) return FailWith(idIfWithoutEndIf);
   bInIfBlock = true;
   bIfCondition = true;
   if (IsComparison(sText)) return ExecuteComparison(sText);
   if (IsPortBitIf(sText)) return ExecutePortBitIf(sText);
   const QString sSensor = FindSensor(sText);
-  return sSensor.isEmpty() ? FailWith(503) : TestSensorCondition(sText, sSensor);
+  return sSensor.isEmpty() ? FailWith(idInvalidIf) : TestSensorCondition(sText, sSensor);
 }
 
 }  // namespace glidetrak

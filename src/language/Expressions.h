@@ -8,6 +8,7 @@
 #include <QString>
 
 #include "platform/RuntimeError.h"
+#include "strings/TextIds.h"
 
 namespace glidetrak {
 
@@ -24,7 +25,7 @@ bool ApplyOperand(qint16 iValue, const QString& sOperator);
 
 /// The message for an error in ApplyOperand: 514 for a division by zero, 515 for an overflow of 32
 /// bits (its wording speaks of 16), 516 for anything else.
-int OperandErrorMessage(const RuntimeError& error);
+TextId OperandErrorMessage(const RuntimeError& error);
 
 /// Compares variable iSlot (1 to 30), sign-extended, with lExprResult. An unknown operator leaves
 /// bCondition alone.

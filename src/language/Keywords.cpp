@@ -4,11 +4,11 @@
 
 namespace glidetrak {
 
-static_assert(iFirstKeywordId + iKeywordCount - 1 == 624, "the words are the ids 600 to 624");
+static_assert(idWordPrint + iKeywordCount - 1 == idWordSoundSensor, "one word after the other");
 
 void LoadKeywords() {
   for (int i = 0; i < iKeywordCount; ++i) {
-    KeywordTable[static_cast<size_t>(i)] = LoadText(iFirstKeywordId + i);
+    KeywordTable[static_cast<size_t>(i)] = LoadText(static_cast<TextId>(idWordPrint + i));
   }
 }
 

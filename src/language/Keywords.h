@@ -8,7 +8,7 @@
 
 namespace glidetrak {
 
-/// In the order of the string ids, from 600.
+/// In the order of their texts, from idWordPrint.
 enum class Keyword {
   Print,
   Break,
@@ -38,7 +38,6 @@ enum class Keyword {
 };
 
 constexpr int iKeywordCount = static_cast<int>(Keyword::SoundSensor) + 1;
-constexpr int iFirstKeywordId = 600;
 
 /// Empty until LoadKeywords.
 inline std::array<QString, iKeywordCount> KeywordTable;

@@ -8,15 +8,13 @@
 
 namespace glidetrak {
 
-constexpr int iProgramErrorTitle = 500;
-
 /// Tells the user of an error in the program. Always false, for the caller to hand on.
 inline bool FailWith(const QString& sText, BoxIcon icon = BoxIcon::Exclamation) {
-  ShowMessage(sText, LoadText(iProgramErrorTitle), icon, BoxPlace::TopBand);
+  ShowMessage(sText, LoadText(idProgramError), icon, BoxPlace::TopBand);
   return false;
 }
-inline bool FailWith(int iMessage, BoxIcon icon = BoxIcon::Exclamation) {
-  return FailWith(LoadText(iMessage), icon);
+inline bool FailWith(TextId id, BoxIcon icon = BoxIcon::Exclamation) {
+  return FailWith(LoadText(id), icon);
 }
 
 }  // namespace glidetrak

@@ -18,8 +18,8 @@ namespace {
 LineResult ReportMissingLabel(const QString& sName) {
   txtProgram.Visible = true;
   txtFocusGrab.SetFocus();
-  ShowMessage(LoadText(505) + LowerCase(sName) + LoadText(506), Word(Keyword::Goto),
-              BoxIcon::Exclamation, BoxPlace::TopBand);
+  ShowMessage(LoadText(idLabelMissingHead) + LowerCase(sName) + LoadText(idLabelMissingTail),
+              Word(Keyword::Goto), BoxIcon::Exclamation, BoxPlace::TopBand);
   bProgramRunning = false;
   return LineResult::Stopped;
 }

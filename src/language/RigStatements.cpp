@@ -76,7 +76,7 @@ bool ExecutePower(const QString& sText) {
   QString sValue = sText;
   sValue.remove(Word(Keyword::Power));
   const qint16 iValue = RoundToInt16(NumericPrefix(TrimBlanks(sValue)));
-  if (iValue < 0 || iValue > 15) return FailWith(509);
+  if (iValue < 0 || iValue > 15) return FailWith(idInvalidPower);
   SetPowerChecked(iValue);
   return true;
 }
@@ -97,7 +97,7 @@ bool IsPortBitLet(const QString& sText) {
 
 bool ExecutePortBitLet(const QString& sText) {
   bool bOn = false;
-  if (!ReadState(sText, bOn)) return FailWith(510);
+  if (!ReadState(sText, bOn)) return FailWith(idInvalidState);
   SetOutputBit(PortBit(sText), bOn);
   return true;
 }
@@ -108,7 +108,7 @@ bool IsPortBitIf(const QString& sText) {
 
 bool ExecutePortBitIf(const QString& sText) {
   bool bOn = false;
-  if (!ReadState(sText, bOn)) return FailWith(503);
+  if (!ReadState(sText, bOn)) return FailWith(idInvalidIf);
   TestInputBit(PortBit(sText), bOn);
   return true;
 }
@@ -123,10 +123,10 @@ QString FindSensor(const QString& sText) {
 bool TestSensorCondition(const QString& sText, const QString& sSensorName) {
   QString sRest = sText;
   sRest.remove(sSensorName);
-  if (!sRest.contains(u'=')) return FailWith(503);
+  if (!sRest.contains(u'=')) return FailWith(idInvalidIf);
   sRest = UpperCase(TrimBlanks(sRest.remove(u'=')));
   const bool bOn = sRest.contains(Word(Keyword::On));
-  if (!bOn && !sRest.contains(Word(Keyword::Off))) return FailWith(503);
+  if (!bOn && !sRest.contains(Word(Keyword::Off))) return FailWith(idInvalidIf);
   TestInputBit(SensorBit(sSensorName), bOn);
   return true;
 }

@@ -105,7 +105,7 @@ void FinishRun() {
 }
 
 void ReportRunError() {
-  FailWith(520);
+  FailWith(idRunError);
   bProgramRunning = false;
   AbortProgram();
   pnlMessage.Visible = false;

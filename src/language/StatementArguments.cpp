@@ -51,7 +51,7 @@ bool ParseWaitTime(const QString& sText, qint32& lMilliseconds) {
     if (sTime.isEmpty()) return false;
     lMilliseconds = RoundToInt32(NumericPrefix(FirstDigits(sTime)));
     if (WaitInRange(lMilliseconds)) return true;
-    FailWith(508, BoxIcon::Information);
+    FailWith(idInvalidWait, BoxIcon::Information);
     lMilliseconds = 32000;
     return false;
   } catch (const RuntimeError&) {

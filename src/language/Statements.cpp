@@ -60,7 +60,8 @@ bool ExecuteLetLine(const QString& sText) {
 
 bool ExecuteWait(const QString& sText) {
   qint32 lMilliseconds = 0;
-  if (!ParseWaitTime(WithoutKeyword(sText, Keyword::Wait), lMilliseconds)) return FailWith(508);
+  if (!ParseWaitTime(WithoutKeyword(sText, Keyword::Wait), lMilliseconds))
+    return FailWith(idInvalidWait);
   DelayMilliseconds(Pump::Yes, lMilliseconds, Tick::LeftOn);
   pnlMessage.Visible = false;
   return true;
@@ -82,7 +83,7 @@ qint16 KeyValue() {
 bool ExecuteGet(const QString& sText) {
   const qsizetype iArgument = Word(Keyword::Get).size();
   sKeyPressed.clear();
-  if (sText.size() <= iArgument) return FailWith(522, BoxIcon::Information);
+  if (sText.size() <= iArgument) return FailWith(idInvalidGet, BoxIcon::Information);
   const int iSlot = SlotOf(CharCode(sText[iArgument]));
   WaitForKey();
   StoreVariable(iSlot, KeyValue());
@@ -127,7 +128,7 @@ bool Dispatch(const QString& sKeyword, const QString& sText) {
   for (const StatementRow& row : StatementRows) {
     if (!sKeyword.isEmpty() && sKeyword == Word(row.keyword)) return row.statement(sText);
   }
-  return FailWith(511);
+  return FailWith(idUnrecognized);
 }
 
 /// A message stays up across these three and goes at any other statement.

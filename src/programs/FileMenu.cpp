@@ -25,11 +25,12 @@ QString StartFolder() {
 }
 
 QString ProgramFilter() {
-  return LoadText(220) + " (*.GTP)|*.GTP";
+  return LoadText(idControlProgramFile) + " (*.GTP)|*.GTP";
 }
 
 QString OpenFilter() {
-  return ProgramFilter() + u'|' + LoadText(220) + LoadText(221) + " (*.TXT)|*.TXT";
+  return ProgramFilter() + u'|' + LoadText(idControlProgramFile) + LoadText(idVersionOne) +
+         " (*.TXT)|*.TXT";
 }
 
 void AskForOpenName() {
@@ -37,7 +38,7 @@ void AskForOpenName() {
   cmLoad.FileName = "*.GTP";
   cmLoad.Filter = OpenFilter();
   cmLoad.FilterIndex = 1;
-  cmLoad.DialogTitle = LoadText(202);
+  cmLoad.DialogTitle = LoadText(idOpenProgram);
   cmLoad.Flags = iDialogFlags;
   cmLoad.DefaultExt = "TXT";
   cmLoad.CancelError = true;
@@ -48,7 +49,7 @@ void AskForSaveName() {
   cmSave.InitDir = StartFolder();
   cmSave.FileName = sProgramFile;
   cmSave.Filter = ProgramFilter();
-  cmSave.DialogTitle = LoadText(207);
+  cmSave.DialogTitle = LoadText(idSaveProgram);
   cmSave.Flags = iDialogFlags;
   cmSave.DefaultExt = "GTP";
   cmSave.ShowSave();
@@ -69,7 +70,7 @@ QString ChooseProgram() {
     sUserFolder = GetFolderOfPath(sPath);
     if (sPath.size() > 3) sExtension = UpperCase(sPath.right(3));
     if (IsProgramExtension(sExtension)) return sPath;
-    ShowMessage(206, 202, BoxIcon::Exclamation);
+    ShowMessage(idOpenNotAProgram, idOpenProgram, BoxIcon::Exclamation);
   }
 }
 
@@ -78,7 +79,7 @@ void OpenChosen(const QString& sPath) {
   LoadProgramFile(sPath, bSuccess);
   if (!bSuccess) {
     screen.MousePointer = ptrDefault;
-    ShowMessage(205, 203, BoxIcon::Exclamation);
+    ShowMessage(idOpenError, idUnableToOpenProgram, BoxIcon::Exclamation);
     return;
   }
   iControlMode = modeProgram;
@@ -93,7 +94,7 @@ bool ChooseTarget() {
     if (cmSave.FileName.isEmpty()) return false;
     sProgramFile = cmSave.FileName;
     if ((cmSave.Flags & dlgExtensionDifferent) != 0) {
-      ShowMessage(210, 207, BoxIcon::Exclamation);
+      ShowMessage(idSaveNotAProgram, idSaveProgram, BoxIcon::Exclamation);
     } else if (!FileExists(sProgramFile) || IsFileReadOnly(sProgramFile) == 0) {
       return true;
     }
@@ -106,7 +107,7 @@ bool WriteProgram() {
   WriteProgramFile(sProgramFile, txtProgram.Text(), bSuccess);
   screen.MousePointer = ptrDefault;
   bSaveBeforeExit = false;
-  if (!bSuccess) ShowMessage(208, 207, BoxIcon::Exclamation);
+  if (!bSuccess) ShowMessage(idSaveError, idSaveProgram, BoxIcon::Exclamation);
   return bSuccess;
 }
 
@@ -118,7 +119,9 @@ bool HasWritableFile() {
 }  // namespace
 
 bool AskSaveChanges(const QString& sTitle) {
-  return AskYesNo(LoadText(211) + "\r\n" + LoadText(212) + "\r\n" + LoadText(213), sTitle);
+  return AskYesNo(LoadText(idChangesNotSaved) + "\r\n" + LoadText(idChangesWillBeLost) + "\r\n" +
+                      LoadText(idSaveChanges),
+                  sTitle);
 }
 
 void PromptSaveChanges(const QString& sTitle) {
@@ -127,7 +130,7 @@ void PromptSaveChanges(const QString& sTitle) {
 
 void NewProgram() {
   if (bProgramRunning) return;
-  if (bProgramDirty) PromptSaveChanges(LoadText(200));
+  if (bProgramDirty) PromptSaveChanges(LoadText(idNewProgram));
   screen.MousePointer = ptrHourglass;
   ResetProgramState();
   iControlMode = modeProgram;
@@ -141,7 +144,7 @@ void NewProgram() {
 
 void OpenProgram() {
   if (bProgramRunning) return;
-  if (bProgramDirty) PromptSaveChanges(LoadText(202));
+  if (bProgramDirty) PromptSaveChanges(LoadText(idOpenProgram));
   try {
     const QString sPath = ChooseProgram();
     if (!sPath.isEmpty()) OpenChosen(sPath);

@@ -48,8 +48,8 @@ void TakePreset(qint16 iIndex) {
 
 void ShowPresetList() {
   cmbExamples.Visible = true;
-  cmdShowExamples.Caption = LoadText(232);
-  cmdShowExamples.ToolTipText = LoadText(233);
+  cmdShowExamples.Caption = LoadText(idHidePresets);
+  cmdShowExamples.ToolTipText = LoadText(idHidePresetsTip);
   cmbExamples.OpenDropDown(true);
   cmbExamples.SetFocus();
 }
@@ -58,7 +58,7 @@ void ShowPresetList() {
 
 void LoadPresetCatalogue() {
   const int iCount = ReadCount();
-  cmbExamples.ToolTipText = LoadText(225) + LoadText(224);
+  cmbExamples.ToolTipText = LoadText(idPresetListTip) + LoadText(idHardwareTrack);
   Presets.assign(static_cast<size_t>(iCount) + 1, {});
   for (int n = 1; n <= iCount; ++n) Presets[static_cast<size_t>(n)] = ReadPreset(n);
   RefreshPresetList();
@@ -87,7 +87,7 @@ void RefreshPresetList() {
 
 void LoadPreset(qint16 iIndex) {
   if (bProgramRunning) return;
-  if (bProgramDirty) PromptSaveChanges(LoadText(201));
+  if (bProgramDirty) PromptSaveChanges(LoadText(idLoadPreset));
   screen.MousePointer = ptrHourglass;
   ResetProgramState();
   TakePreset(iIndex);
@@ -99,8 +99,8 @@ void LoadPreset(qint16 iIndex) {
 
 void HidePresetList() {
   cmbExamples.Visible = false;
-  cmdShowExamples.Caption = LoadText(230);
-  cmdShowExamples.ToolTipText = LoadText(231);
+  cmdShowExamples.Caption = LoadText(idShowPresets);
+  cmdShowExamples.ToolTipText = LoadText(idShowPresetsTip);
 }
 
 void SetProgramBoxVisible(bool bShow) {

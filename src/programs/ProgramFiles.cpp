@@ -121,7 +121,7 @@ bool FileExists(const QString& sPath) {
 int IsFileReadOnly(const QString& sPath) {
   try {
     if ((pMachine->FileAttributes(sPath) & attrReadOnly) == 0) return 0;
-    ShowMessage(209, 207, BoxIcon::Exclamation);
+    ShowMessage(idSaveReadOnly, idSaveProgram, BoxIcon::Exclamation);
     return 1;
   } catch (const RuntimeError&) {
     return 2;
@@ -129,11 +129,11 @@ int IsFileReadOnly(const QString& sPath) {
 }
 
 void ShowFileInTitle(const QString& sName) {
-  frmGlidetrak.Caption = UpperCase(sName) + " : " + LoadText(80);
+  frmGlidetrak.Caption = UpperCase(sName) + " : " + LoadText(idProgramName);
 }
 
 void ShowPlainTitle() {
-  frmGlidetrak.Caption = LoadText(80);
+  frmGlidetrak.Caption = LoadText(idProgramName);
 }
 
 }  // namespace glidetrak

@@ -23,7 +23,7 @@ void CentreOnMainForm() {
 
 QString VersionText() {
   return QString("%1%2.%3.%4")
-      .arg(LoadText(324))
+      .arg(LoadText(idVersion))
       .arg(iVersionMajor)
       .arg(iVersionMinor, 2, 10, QChar(u'0'))
       .arg(iVersionRevision, 4, 10, QChar(u'0'));
@@ -34,11 +34,11 @@ QString VersionText() {
 /// A showing that begins while another stands takes its timers over: off, as a form loads them.
 void frmAbout_Load() {
   frmAbout_Unload();
-  frmAbout.Caption = LoadText(80);
+  frmAbout.Caption = LoadText(idProgramName);
   CentreOnMainForm();
   lblProgName.Caption = frmAbout.Caption.value();
   lblProgVer.Caption = VersionText();
-  lblplw8Instruct.Caption = LoadText(84);
+  lblplw8Instruct.Caption = LoadText(idCheckingHardware);
   lblplw8Instruct.Visible = true;
   lblCopyright.Caption = sLegalNotice;
   tmrUpdate.Enabled = true;
@@ -74,7 +74,7 @@ void ShowPlzW8Box(bool bAbout) {
 
 void tmrUpdate_Timer() {
   tmrUpdate.Enabled = false;
-  lblplw8Instruct.Caption = LoadText(bLinkUp ? 280 : 281);
+  lblplw8Instruct.Caption = LoadText(bLinkUp ? idInterfaceDetected : idInterfaceNotDetected);
 }
 
 void TmrAbout_Timer() {

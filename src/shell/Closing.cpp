@@ -19,12 +19,13 @@ namespace {
 
 bool ConfirmClose() {
   frmGlidetrak.SetFocus();
-  return AskYesNo(LoadText(60) + "\r\n" + LoadText(61), LoadText(62));
+  return AskYesNo(LoadText(idLeavingApplication) + "\r\n" + LoadText(idSureToContinue),
+                  LoadText(idCloseSoftware));
 }
 
 /// There is no third way out: No discards the changes and the close goes on.
 void OfferToSave() {
-  if (!AskSaveChanges(LoadText(62))) return;
+  if (!AskSaveChanges(LoadText(idCloseSoftware))) return;
   bSaveBeforeExit = true;
   SaveProgram();
 }

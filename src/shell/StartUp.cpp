@@ -51,7 +51,7 @@ int LanguageIndex() {
 
 /// Id 10 tells which texts came out: without a table of its own a language counts as English.
 void DropLanguageWithoutTexts() {
-  if (LoadText(10) == "1" && NumericPrefix(sLanguageIndex) > 2) sLanguageIndex = "0";
+  if (LoadText(idLanguageMark) == "1" && NumericPrefix(sLanguageIndex) > 2) sLanguageIndex = "0";
 }
 
 void ChooseLanguageFolder() {
@@ -162,7 +162,7 @@ void Form_Load(const QString& sCommandLine) {
 void CheckSingleInstance() {
   if (pMachine->TakeSingleInstance()) return;
   bRigLetGo = true;  // the rig is the first copy's
-  ShowMessage(50, 80, BoxIcon::Exclamation);
+  ShowMessage(idAlreadyRunning, idProgramName, BoxIcon::Exclamation);
   application.Title = "Exists";  // so that the search for the other copy does not find this one
   pDesktop->PumpEvents();
   pMachine->ActivateOtherCopy();

@@ -4,6 +4,8 @@
 #include <array>
 #include <string_view>
 
+#include "strings/TextIds.h"
+
 namespace glidetrak {
 
 namespace {
@@ -22,6 +24,17 @@ constexpr std::array SpanishRows{
 };
 #undef TEXT_ROW
 
+#define TEXT_ID(ID, NAME) NAME,
+constexpr std::array NamedIds{
+#include "../data/strings/TextIds.inc"
+};
+#undef TEXT_ID
+
+constexpr bool EveryRowHasAName() {
+  return std::equal(EnglishRows.begin(), EnglishRows.end(), NamedIds.begin(), NamedIds.end(),
+                    [](const TextRow& row, TextId id) { return row.iId == id; });
+}
+
 constexpr bool SameIds() {
   return std::equal(EnglishRows.begin(), EnglishRows.end(), SpanishRows.begin(), SpanishRows.end(),
                     [](const TextRow& a, const TextRow& b) { return a.iId == b.iId; });
@@ -33,7 +46,7 @@ constexpr bool InIdOrder() {
 }
 
 static_assert(EnglishRows.size() == iStringCount);
-static_assert(SameIds() && InIdOrder());
+static_assert(SameIds() && InIdOrder() && EveryRowHasAName());
 
 template <class Rows>
 QString FindRow(const Rows& rows, int iId) {

@@ -21,13 +21,13 @@ QString FindText(int iId) {
 
 }  // namespace
 
-QString LoadText(int iId) {
-  return ReplaceTokens(iId, {});
+QString LoadText(TextId id) {
+  return ReplaceTokens(id, {});
 }
 
-QString ReplaceTokens(int iId, const std::vector<Token>& aTokens) {
+QString ReplaceTokens(TextId id, const std::vector<Token>& aTokens) {
   QString sText;
-  SkipOnError([&] { sText = FindText(iId); });
+  SkipOnError([&] { sText = FindText(id); });
   for (const auto& [sToken, sValue] : aTokens) sText.replace(sToken, sValue);
   return sText;
 }

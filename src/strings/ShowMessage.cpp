@@ -4,8 +4,8 @@
 
 namespace glidetrak {
 
-void ShowMessage(int iText, int iTitle, BoxIcon icon, BoxPlace place) {
-  ShowMessage(LoadText(iText), LoadText(iTitle), icon, place);
+void ShowMessage(TextId idText, TextId idTitle, BoxIcon icon, BoxPlace place) {
+  ShowMessage(LoadText(idText), LoadText(idTitle), icon, place);
 }
 
 void ShowMessage(const QString& sText, const QString& sTitle, BoxIcon icon, BoxPlace place) {

@@ -5,11 +5,12 @@
 #include <QString>
 
 #include "platform/Platform.h"
+#include "strings/TextIds.h"
 
 namespace glidetrak {
 
 /// A box with OK, text and title by their ids.
-void ShowMessage(int iText, int iTitle, BoxIcon icon, BoxPlace place = BoxPlace::Middle);
+void ShowMessage(TextId idText, TextId idTitle, BoxIcon icon, BoxPlace place = BoxPlace::Middle);
 
 /// A box with OK and a text put together by the caller.
 void ShowMessage(const QString& sText, const QString& sTitle, BoxIcon icon,

@@ -24,8 +24,8 @@ void PaintLamps() {
 }
 
 QString DebugText() {
-  return LoadText(54) + QString::number(lInputImage) + "\r\n" + LoadText(55) +
-         QString::number(lOutputImage) + "\r\n" + LoadText(56) + pMachine->LongTime();
+  return LoadText(idDataIn) + QString::number(lInputImage) + "\r\n" + LoadText(idDataOut) +
+         QString::number(lOutputImage) + "\r\n" + LoadText(idPresentTime) + pMachine->LongTime();
 }
 
 }  // namespace

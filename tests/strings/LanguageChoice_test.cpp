@@ -138,10 +138,10 @@ TEST_F(LanguageChoice, GivesTheDefaultForANumberThatIsNotStored) {
 
 TEST_F(LanguageChoice, DecidesOnceAndForAll) {
   Store(Scope::User, 3082);
-  EXPECT_EQ(LoadText(245), "&Cerrar");
+  EXPECT_EQ(LoadText(idMenuExit), "&Cerrar");
   Store(Scope::User, 1033);
   EXPECT_EQ(iUILanguage, 3082);
-  EXPECT_EQ(LoadText(245), "&Cerrar");
+  EXPECT_EQ(LoadText(idMenuExit), "&Cerrar");
 }
 
 TEST_F(LanguageChoice, KeepsAMappedCodeForTheRestOfTheProcess) {
@@ -153,12 +153,12 @@ TEST_F(LanguageChoice, KeepsAMappedCodeForTheRestOfTheProcess) {
 TEST_F(LanguageChoice, PutsTheCommandLinesLanguageAheadOfTheSystems) {
   Store(Scope::User, 3082);
   SetUILanguage(1033);
-  EXPECT_EQ(LoadText(245), "E&xit");
+  EXPECT_EQ(LoadText(idMenuExit), "E&xit");
 }
 
 TEST_F(LanguageChoice, LeavesTheCommandLinesCodeAsItWasGiven) {
   SetUILanguage(2058);
-  EXPECT_EQ(LoadText(245), "&Cerrar");
+  EXPECT_EQ(LoadText(idMenuExit), "&Cerrar");
   EXPECT_EQ(iUILanguage, 2058);
 }
 
@@ -175,14 +175,15 @@ const FallbackRow FallbackRows[] = {
 TEST_F(LanguageChoice, ShowsEnglishWhereThereIsNoTable) {
   for (const FallbackRow& row : FallbackRows) {
     SetUILanguage(static_cast<qint16>(row.iLanguage));
-    EXPECT_EQ(LoadText(10), row.sMarker) << row.iLanguage;
+    EXPECT_EQ(LoadText(idLanguageMark), row.sMarker) << row.iLanguage;
   }
 }
 
 TEST_F(LanguageChoice, HasNoTextForAnUnknownIdInAnyLanguage) {
   for (const FallbackRow& row : FallbackRows) {
     SetUILanguage(static_cast<qint16>(row.iLanguage));
-    for (const int iId : {0, 5, 263, 999, -1}) EXPECT_EQ(LoadText(iId), "") << iId;
+    for (const int iId : {0, 5, 263, 999, -1})
+      EXPECT_EQ(LoadText(static_cast<TextId>(iId)), "") << iId;
   }
 }
 
@@ -198,29 +199,29 @@ TEST(LoadText, NeverFails) {
   BrokenPlatform platform;
   iUILanguage = 0;
   QString sText = "old";
-  EXPECT_NO_THROW(sText = LoadText(80));
+  EXPECT_NO_THROW(sText = LoadText(idProgramName));
   EXPECT_EQ(sText, "");
 }
 
 struct TokenRow {
-  int iId;
+  TextId id;
   std::vector<Token> aTokens;
   QString sExpected;
 };
 
 const TokenRow TokenRows[] = {
-    {245, {}, "E&xit"},
-    {245, {{"&", ""}}, "Exit"},
-    {72, {{"Hardware", "rig"}}, "Unable to communicate with the rig."},
-    {245, {{"x", "y"}, {"y", "z"}}, "E&zit"},
-    {245, {{"q", "z"}}, "E&xit"},
-    {804, {{"N", "n"}}, "COnTROL PAnEL"},
-    {0, {{"x", "y"}}, ""},
+    {idMenuExit, {}, "E&xit"},
+    {idMenuExit, {{"&", ""}}, "Exit"},
+    {idUnableToCommunicate, {{"Hardware", "rig"}}, "Unable to communicate with the rig."},
+    {idMenuExit, {{"x", "y"}, {"y", "z"}}, "E&zit"},
+    {idMenuExit, {{"q", "z"}}, "E&xit"},
+    {idControlPanel, {{"N", "n"}}, "COnTROL PAnEL"},
+    {idNoText, {{"x", "y"}}, ""},
 };
 
 TEST_F(LanguageChoice, ReplacesEachTokenInTurnAndEverywhere) {
   for (const TokenRow& row : TokenRows) {
-    EXPECT_EQ(ReplaceTokens(row.iId, row.aTokens), row.sExpected) << row.iId;
+    EXPECT_EQ(ReplaceTokens(row.id, row.aTokens), row.sExpected) << row.id;
   }
 }
 

@@ -16,7 +16,7 @@ class Messages : public ::testing::Test {
 };
 
 TEST_F(Messages, TakeTextAndTitleByTheirIds) {
-  ShowMessage(511, 500, BoxIcon::Exclamation);
+  ShowMessage(idUnrecognized, idProgramError, BoxIcon::Exclamation);
   ASSERT_EQ(platform.aBoxes.size(), 1U);
   const VirtualBox& box = platform.aBoxes[0];
   EXPECT_EQ(box.sText, "Unrecognized Command or expression");
