@@ -33,15 +33,25 @@ function(glidetrak_test_options TARGET)
   target_compile_options(${TARGET} PRIVATE $<$<CONFIG:Release>:-O1>)
 endfunction()
 
+# glidetrak_unit_test(TARGET)
+function(glidetrak_unit_test TARGET)
+  if(NOT GLIDETRAK_UNIT_TESTS)
+    set_target_properties(${TARGET} PROPERTIES EXCLUDE_FROM_ALL ON)
+  endif()
+endfunction()
+
 # glidetrak_tests(NAME LINK library... SOURCES file...)
 # A GoogleTest program; every test of it runs in a process of its own, since the station's state is
-# global.
+# global. A build without GLIDETRAK_UNIT_TESTS makes it only when asked for it by name.
 function(glidetrak_tests NAME)
   cmake_parse_arguments(TESTS "" "" "LINK;SOURCES;ENVIRONMENT" ${ARGN})
   add_executable(${NAME} ${TESTS_SOURCES})
+  glidetrak_unit_test(${NAME})
   target_link_libraries(${NAME} PRIVATE ${TESTS_LINK} Qt6::Core GTest::gmock GTest::gtest_main)
   glidetrak_test_options(${NAME})
   glidetrak_precompiled(${NAME})
-  gtest_discover_tests(${NAME} PROPERTIES TIMEOUT 120 ENVIRONMENT "${TESTS_ENVIRONMENT}"
-                       DISCOVERY_MODE PRE_TEST)
+  if(GLIDETRAK_UNIT_TESTS)
+    gtest_discover_tests(${NAME} PROPERTIES TIMEOUT 120 ENVIRONMENT "${TESTS_ENVIRONMENT}"
+                         DISCOVERY_MODE PRE_TEST)
+  endif()
 endfunction()
