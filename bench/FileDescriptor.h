@@ -26,6 +26,9 @@ class FileDescriptor {
   /// The system's number for it; -1 when nothing is open.
   int Number() const { return m_iNumber; }
 
+  /// Hands it over to the caller, who closes it.
+  int Release() { return std::exchange(m_iNumber, -1); }
+
  private:
   int m_iNumber;
 };

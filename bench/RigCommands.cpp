@@ -58,7 +58,8 @@ std::string NamesOf(int iSensors) {
   return sNames.empty() ? " none" : sNames;
 }
 
-std::string State(const TrackModel& model) {
+std::string State(const Rig& rig) {
+  const TrackModel& model = rig.Track();
   std::ostringstream text;
   text << "position " << std::lround(model.Position()) << " mm\n"
        << "speed " << std::lround(model.Speed()) << " mm/s\n"
@@ -66,15 +67,16 @@ std::string State(const TrackModel& model) {
        << "direction " << (model.Forward() ? "forward" : "backward") << '\n'
        << "inputs" << NamesOf(model.Sensors()) << '\n'
        << "analog " << model.Analog() << '\n'
-       << "plugged " << (model.Plugged() ? "yes" : "no") << '\n';
+       << "plugged " << (model.Plugged() ? "yes" : "no") << '\n'
+       << "attached " << (rig.Attached() ? "yes" : "no") << '\n';
   return text.str();
 }
 
-/// A command that answers nothing.
+/// A command that does something to the track and answers nothing.
 template <typename Act>
 RigCommand Silent(Act act) {
-  return [act](TrackModel& model) {
-    act(model);
+  return [act](Rig& rig) {
+    act(rig.Track());
     return std::string();
   };
 }
@@ -113,6 +115,25 @@ RigCommand ParsePlug(const Words&) {
   return Silent([](TrackModel& model) { model.SetPlugged(true); });
 }
 
+RigCommand AttachOrDetach(bool bAttached) {
+  return [=](Rig& rig) {
+    rig.SetAttached(bAttached);
+    return std::string();
+  };
+}
+
+RigCommand ParseDetach(const Words&) {
+  return AttachOrDetach(false);
+}
+
+RigCommand ParseAttach(const Words&) {
+  return AttachOrDetach(true);
+}
+
+RigCommand ParseLog(const Words&) {
+  return [](const Rig& rig) { return rig.Record().Text(); };
+}
+
 RigCommand ParsePlace(const Words& arguments) {
   const auto place = ParseNumber(arguments[0], 0, static_cast<int>(fTrackLength));
   if (!place) return {};
@@ -134,8 +155,11 @@ constexpr std::array CommandRows{
     CommandRow{"sound", 1, ParseSound, "sound on|off|MS       a noise, or one of 1 to 60000 ms"},
     CommandRow{"unplug", 0, ParseUnplug, "unplug                pull the lead of the rig"},
     CommandRow{"plug", 0, ParsePlug, "plug                  put the lead back"},
+    CommandRow{"detach", 0, ParseDetach, "detach                take the adapter off its port"},
+    CommandRow{"attach", 0, ParseAttach, "attach                put the adapter back"},
     CommandRow{"place", 1, ParsePlace,
                "place MM              put the vehicle down, 0 (city) to 2000 (airport) mm"},
+    CommandRow{"log", 0, ParseLog, "log                   show the bytes that were written"},
 };
 
 }  // namespace

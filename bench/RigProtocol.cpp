@@ -15,17 +15,17 @@ constexpr int iUsedBytes = 4;
 
 }  // namespace
 
-ReportBytes AnswerReport(TrackModel& model, const ReportBytes& data, int iLength) {
+ReportBytes AnswerReport(Rig& rig, const ReportBytes& data, int iLength) {
   const std::uint8_t iCommand = data.empty() ? 0 : data[0];
   ReportBytes answer(static_cast<size_t>(std::max(iLength, iUsedBytes)));
   answer[0] = iCommand;
   if (iCommand == iReadState) {
-    answer[iInputIndex] = static_cast<std::uint8_t>(model.Sensors());
-    answer[iAnalogIndex] = static_cast<std::uint8_t>(model.Analog() << 4);
+    answer[iInputIndex] = static_cast<std::uint8_t>(rig.Sensors());
+    answer[iAnalogIndex] = static_cast<std::uint8_t>(rig.Analog() << 4);
     return answer;
   }
   if (iCommand != iSetOutput || data.size() <= iOutputIndex) return {};
-  model.SetOutput(data[iOutputIndex]);
+  rig.Write(data[iOutputIndex]);
   return answer;
 }
 

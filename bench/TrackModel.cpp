@@ -8,8 +8,6 @@ namespace glidetrak::bench {
 namespace {
 
 constexpr double fSecondsPerStep = 0.001;
-constexpr int iPowerMask = 15;
-constexpr int iForwardMask = 16;
 
 double Sign(double fValue) {
   return fValue < 0 ? -1 : 1;
@@ -27,8 +25,8 @@ void TrackModel::Advance(std::int64_t lMilliseconds) {
 
 void TrackModel::SetOutput(int iByte) {
   if (!m_bPlugged) return;
-  m_iPower = iByte & iPowerMask;
-  m_bForward = (iByte & iForwardMask) != 0;
+  m_iPower = PowerOf(iByte);
+  m_bForward = IsForward(iByte);
 }
 
 void TrackModel::Press(Button button, int iMilliseconds) {

@@ -55,6 +55,14 @@ enum SensorBit {
   bitPresent = 7,  ///< the rig is there; on the parallel link only
 };
 
+/// What an output byte means: power 0 to iMostPower, and the direction (true: towards the airport).
+constexpr int PowerOf(int iByte) {
+  return iByte & 15;
+}
+constexpr bool IsForward(int iByte) {
+  return (iByte & 16) != 0;
+}
+
 class TrackModel {
  public:
   /// Moves the model on; 0 and less do nothing.

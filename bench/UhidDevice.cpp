@@ -16,11 +16,19 @@ namespace glidetrak::bench {
 namespace {
 
 constexpr char sDeviceName[] = "Glidetrak bench rig";
+constexpr std::chrono::milliseconds nodePatience{2000};  ///< for the kernel to make the node
+constexpr int iNodeLook = 10;                            ///< ms between two looks for it
 
 uhid_event NewEvent(std::uint32_t lType) {
   uhid_event event{};
   event.type = lType;
   return event;
+}
+
+/// By which the device's node is known among those of other rigs.
+std::string UniqueName(const UhidDevice& device) {
+  return "bench-" + std::to_string(getpid()) + "-" +
+         std::to_string(reinterpret_cast<std::uintptr_t>(&device));
 }
 
 }  // namespace
@@ -30,6 +38,7 @@ void UhidDevice::Plug() {
   Unplug();  // what a device that vanished by itself has left
   Create();
   m_stop = FileDescriptor(eventfd(0, EFD_CLOEXEC));
+  m_nodeDue = Clock::now() + nodePatience;
   m_bIn = true;
   m_thread = StartWorker([this] { Serve(); });
 }
@@ -51,6 +60,8 @@ void UhidDevice::Create() {
   uhid_event event = NewEvent(UHID_CREATE2);
   uhid_create2_req& create = event.u.create2;
   std::memcpy(create.name, sDeviceName, sizeof sDeviceName);
+  const std::string sUnique = UniqueName(*this);
+  std::memcpy(create.uniq, sUnique.c_str(), sUnique.size());
   create.bus = BUS_USB;
   create.vendor = static_cast<std::uint32_t>(m_config.iVendor);
   create.product = static_cast<std::uint32_t>(m_config.iProduct);
@@ -86,11 +97,19 @@ void UhidDevice::Serve() {
     if (aWaits[1].revents != 0) return;
     if (aWaits[0].revents != 0) TakeEvent();
     DoDueDeeds();
+    HandOverNode();
   }
 }
 
-/// ms until the next deed, -1 when there is none.
+/// The kernel says when it begins to make the node and not when it has.
+void UhidDevice::HandOverNode() {
+  if (m_nodeDue == Clock::time_point()) return;
+  if (GiveNode(UniqueName(*this), m_config.iUser) || Clock::now() > m_nodeDue) m_nodeDue = {};
+}
+
+/// ms until there is something to be done, -1 when there is nothing.
 int UhidDevice::WaitTime() const {
+  if (m_nodeDue != Clock::time_point()) return iNodeLook;
   if (m_aDeeds.empty()) return -1;
   const auto wait =
       std::chrono::ceil<std::chrono::milliseconds>(m_aDeeds.front().due - Clock::now());
@@ -135,9 +154,12 @@ void UhidDevice::Refuse(const uhid_event& event) {
 void UhidDevice::TakeReport(const uhid_event& event) {
   const uhid_output_req& output = event.u.output;
   const ReportBytes data(output.data + 1, output.data + std::max<int>(1, output.size));
-  Count([&](UhidCounts& counts) { counts.aReports.push_back(data); });
-  ReportBytes answer = m_rig.With(
-      [&](TrackModel& model) { return AnswerReport(model, data, m_config.iInputLength); });
+  Count([&](UhidCounts& counts) {
+    if (counts.aReports.size() == iKeptReports) counts.aReports.erase(counts.aReports.begin());
+    counts.aReports.push_back(data);
+  });
+  ReportBytes answer =
+      m_rig.With([&](Rig& rig) { return AnswerReport(rig, data, m_config.iInputLength); });
   if (!answer.empty()) React(FaultOfThisReport(), std::move(answer));
 }
 

@@ -11,8 +11,9 @@
 //   In -> Out    [Unplug], or by itself when the fault Vanish strikes
 //
 // Needs /dev/uhid, which is root's. The device appears to programs a moment after Plug returns,
-// since the kernel makes its node behind our back. The kernel passes a version on to nobody for a
-// device without a bus, so programs that ask for it read 0 whatever iVersion says.
+// since the kernel makes its node behind our back; another moment later the node belongs to the
+// device's user (DeviceNode.h). The kernel passes a version on to nobody for a device without a
+// bus, so programs that ask for it read 0 whatever iVersion says.
 
 #include <atomic>
 #include <chrono>
@@ -21,6 +22,7 @@
 #include <thread>
 #include <vector>
 
+#include "bench/DeviceNode.h"
 #include "bench/FileDescriptor.h"
 #include "bench/LiveRig.h"
 #include "bench/RigProtocol.h"
@@ -36,6 +38,7 @@ struct UhidConfig {
   int iVersion = 0x0100;
   int iInputLength = 64;
   int iOutputLength = 64;
+  int iUser = NodeUser();  ///< to whom the node is given
 };
 
 enum class UhidFault {
@@ -50,12 +53,14 @@ enum class UhidFault {
 constexpr std::uint8_t iGarbage = 0xA5;
 constexpr int iShortLength = 2;
 
+constexpr size_t iKeptReports = 256;
+
 /// What a device has seen since it was made.
 struct UhidCounts {
   int iOpened = 0;                    ///< times that the first program opened it
   int iClosed = 0;                    ///< times that the last program closed it
   int iAnswers = 0;                   ///< input reports sent
-  std::vector<ReportBytes> aReports;  ///< the output reports, behind the report id
+  std::vector<ReportBytes> aReports;  ///< the last iKeptReports output reports, behind the id
 };
 
 class UhidDevice {
@@ -97,6 +102,7 @@ class UhidDevice {
   UhidFault FaultOfThisReport();
   void React(UhidFault fault, ReportBytes answer);
   void DoDueDeeds();
+  void HandOverNode();
   void SendAnswer(const ReportBytes& answer);
   void Send(const uhid_event& event);
   void Vanish();
@@ -109,7 +115,8 @@ class UhidDevice {
   FileDescriptor m_stop;  ///< becomes readable when the thread is to end
   std::thread m_thread;
   std::atomic<bool> m_bIn = false;
-  std::deque<Deed> m_aDeeds;  ///< of the thread alone, in the order of their reports
+  std::deque<Deed> m_aDeeds;    ///< of the thread alone, in the order of their reports
+  Clock::time_point m_nodeDue;  ///< until then the node is looked for; 0 when it was handed over
 
   mutable std::mutex m_mutex;  ///< over all that follows
   UhidFault m_fault = UhidFault::None;

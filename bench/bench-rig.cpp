@@ -1,15 +1,16 @@
-// The model track from a shell: shows its state and presses its buttons wherever it runs, or serves
-// it as a HID device until it is told to stop. Exit code 0 when done, 1 when no rig answers or the
-// device cannot be made, 2 for a command line that means nothing.
+// The bench rig from a shell: serves one until it is told to end (Ctrl+C or a termination signal),
+// or speaks to the one that is served. Exit code 0 when done, 1 when no rig answers or none can be
+// served, 2 for a command line that means nothing.
 
 #include <csignal>
 #include <cstdio>
-#include <ctime>
 #include <exception>
 #include <string>
 
-#include "bench/ControlSocket.h"
+#include "bench/LiveRig.h"
+#include "bench/RigClient.h"
 #include "bench/RigCommands.h"
+#include "bench/RigConversation.h"
 #include "bench/UhidDevice.h"
 
 namespace glidetrak::bench {
@@ -18,7 +19,6 @@ namespace {
 
 constexpr int iFailed = 1;
 constexpr int iUsage = 2;
-constexpr long lLeadCheck = 50'000'000;  ///< ns between two looks at the model's lead
 
 std::string JoinArguments(int iCount, char** aArguments) {
   std::string sLine;
@@ -27,48 +27,76 @@ std::string JoinArguments(int iCount, char** aArguments) {
 }
 
 int ShowUsage() {
-  std::fprintf(stderr, "usage: bench-rig COMMAND\n%s  hid                   %s\n",
-               RigCommandHelp().c_str(), "be a HID device until interrupted");
+  std::fprintf(stderr, "usage: bench-rig COMMAND\n%s  %s\n  %s\n", RigCommandHelp().c_str(),
+               "serve                 be a rig until interrupted",
+               "hid                   be one on a USB adapter too (for root)");
   return iUsage;
 }
 
 int Command(const std::string& sLine) {
   if (!ParseRigCommand(sLine)) return ShowUsage();
-  std::fputs(AskRig(ControlSocketPath(), sLine).c_str(), stdout);
+  std::fputs(AskRig(WireName(), sLine).c_str(), stdout);
   return 0;
 }
 
-/// Blocked before any thread starts, so that they are left for sigtimedwait.
-sigset_t BlockEndSignals() {
-  sigset_t signals{};
-  sigemptyset(&signals);
-  sigaddset(&signals, SIGINT);
-  sigaddset(&signals, SIGTERM);
-  pthread_sigmask(SIG_BLOCK, &signals, nullptr);
-  return signals;
+/// While it lives, the signals that end a process end the server. A signal that whoever started us
+/// had ignored stays ignored.
+class EndBySignals {
+ public:
+  explicit EndBySignals(WireServer& server) {
+    m_pServer = &server;
+    for (const int iSignal : {SIGINT, SIGTERM, SIGHUP}) {
+      if (std::signal(iSignal, SIG_IGN) != SIG_IGN) std::signal(iSignal, End);
+    }
+  }
+  ~EndBySignals() {
+    for (const int iSignal : {SIGINT, SIGTERM, SIGHUP}) std::signal(iSignal, SIG_IGN);
+  }
+
+ private:
+  static void End(int) { m_pServer->End(); }
+
+  static inline WireServer* m_pServer = nullptr;
+};
+
+/// Whoever waits for this line finds the rig there.
+void TellPlace(const std::string& sName) {
+  std::printf("serving a rig at %s\n", sName.c_str());
+  std::fflush(stdout);
 }
 
-/// The lead of the model is the lead of the device.
-void FollowLead(LiveRig& rig, UhidDevice& device) {
-  const bool bWanted = rig.With([](TrackModel& model) { return model.Plugged(); });
+int Serve() {
+  const std::string sName = WireName();
+  LiveRig rig;
+  WireServer server(sName);
+  const EndBySignals signals(server);
+  TellPlace(sName);
+  ServeRig(rig, server);
+  return 0;
+}
+
+/// The adapter of the rig is the device.
+void FollowAdapter(LiveRig& rig, UhidDevice& device) {
+  const bool bWanted = rig.With([](Rig& present) { return present.Attached(); });
   bWanted ? device.Plug() : device.Unplug();
 }
 
 int ServeHid() {
-  const sigset_t endSignals = BlockEndSignals();
+  const std::string sName = WireName();
   LiveRig rig;
-  const ControlSocket socket(rig, ControlSocketPath());
+  WireServer server(sName);
+  const EndBySignals signals(server);
   UhidDevice device(rig);
-  const timespec pause{0, lLeadCheck};
-  do {
-    FollowLead(rig, device);
-  } while (sigtimedwait(&endSignals, nullptr, &pause) < 0);
+  device.Plug();
+  TellPlace(sName);
+  ServeRig(rig, server, [&] { FollowAdapter(rig, device); });
   return 0;
 }
 
 int Main(int iCount, char** aArguments) {
   try {
     const std::string sLine = JoinArguments(iCount, aArguments);
+    if (sLine == "serve") return Serve();
     return sLine == "hid" ? ServeHid() : Command(sLine);
   } catch (const std::exception& failure) {
     std::fprintf(stderr, "bench-rig: %s\n", failure.what());

@@ -1,6 +1,6 @@
 #pragma once
 
-// A folder of a test's own with a control socket in it, for this process and the ones it starts.
+// A folder of a test's own in which a rig can be served, for this process and the ones it starts.
 
 #include <gtest/gtest.h>
 #include <sys/wait.h>
@@ -11,6 +11,10 @@
 #include <filesystem>
 #include <string>
 #include <thread>
+
+#include "bench/LiveRig.h"
+#include "bench/RigConversation.h"
+#include "bench/Wire.h"
 
 namespace glidetrak::bench {
 
@@ -27,6 +31,67 @@ class BenchFolder : public testing::Test {
 
   std::filesystem::path m_folder;
 };
+
+/// A server that serves from a thread of its own until it goes.
+class ServedWire {
+ public:
+  ServedWire(const std::string& sName,
+             std::function<std::unique_ptr<Conversation>()> newConversation)
+      : m_server(sName), m_thread([this, newConversation = std::move(newConversation)] {
+          m_server.Serve(newConversation);
+        }) {}
+  ~ServedWire() {
+    m_server.End();
+    m_thread.join();
+  }
+  ServedWire(const ServedWire&) = delete;
+  ServedWire& operator=(const ServedWire&) = delete;
+
+ private:
+  WireServer m_server;
+  std::thread m_thread;
+};
+
+/// A rig that is served.
+class ServedRig {
+ public:
+  explicit ServedRig(const std::string& sName)
+      : m_wire(sName, [this] { return std::make_unique<RigConversation>(m_rig); }) {}
+
+  double Position() {
+    return m_rig.With([](TrackModel& model) { return model.Position(); });
+  }
+  int Sensors() {
+    return m_rig.With([](TrackModel& model) { return model.Sensors(); });
+  }
+
+ private:
+  LiveRig m_rig;
+  ServedWire m_wire;
+};
+
+inline Deadline Within(int iMilliseconds) {
+  return std::chrono::steady_clock::now() + std::chrono::milliseconds(iMilliseconds);
+}
+
+/// A connection that has sent that and stays open.
+inline WireConnection Talk(const std::string& sName, const std::string& sText) {
+  WireConnection connection;
+  EXPECT_TRUE(connection.Connect(sName, Within(2000)));
+  EXPECT_TRUE(connection.Send(sText, Within(2000)));
+  return connection;
+}
+
+/// All that comes within that time, or up to where the other side hangs up.
+inline std::string Hear(WireConnection& connection, int iMilliseconds) {
+  std::string sText;
+  char aPiece[512];
+  const Deadline deadline = Within(iMilliseconds);
+  while (const size_t iCount = connection.Receive(aPiece, sizeof aPiece, deadline)) {
+    sText.append(aPiece, iCount);
+  }
+  return sText;
+}
 
 /// Waits up to 10 s, far beyond what anything here takes, for the condition.
 template <typename Condition>
@@ -46,7 +111,7 @@ struct ShellResult {
 
 inline ShellResult Shell(const std::string& sCommand) {
   ShellResult result;
-  FILE* pPipe = popen((sCommand + " 2>&1").c_str(), "r");
+  FILE* pPipe = popen(("exec 2>&1; " + sCommand).c_str(), "r");
   char aPiece[256];
   while (std::fgets(aPiece, sizeof aPiece, pPipe) != nullptr) result.sText += aPiece;
   const int iStatus = pclose(pPipe);

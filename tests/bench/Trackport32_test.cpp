@@ -5,9 +5,10 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 
 #include "BenchFolder.h"
-#include "bench/ControlSocket.h"
+#include "bench/RigClient.h"
 
 namespace glidetrak::bench {
 namespace {
@@ -46,6 +47,7 @@ class BenchLibrary : public BenchFolder {
     return State().find(sLine + "\n") != std::string::npos;
   }
 
+  std::optional<ServedRig> m_rig{std::in_place, SocketPath()};
   const Library m_library{TRACKPORT32_BENCH};
 };
 
@@ -65,17 +67,32 @@ TEST_F(BenchLibrary, HasOnePortWithAnAdapter) {
   EXPECT_EQ(m_library.Call("OpenLPT", 3), 0);
 }
 
-TEST_F(BenchLibrary, SocketStandsFromTheFirstCall) {
-  EXPECT_FALSE(std::filesystem::exists(SocketPath()));
-  m_library.Call("LPTAvailable");
-  EXPECT_TRUE(Shows("position 100 mm"));
+TEST_F(BenchLibrary, ARigThatIsNotServedIsNoAdapter) {
+  m_rig.reset();
+  EXPECT_EQ(m_library.Call("LPTAvailable"), 1);
+  EXPECT_EQ(m_library.Call("LPTAddress", 1), lAddress);
+  EXPECT_EQ(m_library.Call("IsAdapterConnected", lAddress), 0);
+  EXPECT_EQ(m_library.Call("ReadAdapter", lAddress), 0);
+  EXPECT_EQ(m_library.Call("WriteAdapter", lAddress, 0x1F), 0);
+  EXPECT_EQ(m_library.Call("ReadAtoD", lAddress, 50000), 0);
 }
 
-TEST_F(BenchLibrary, RunsWithoutASocketWhenAnotherRigHasIt) {
-  LiveRig other;
-  const ControlSocket socket(other, SocketPath());
-  EXPECT_EQ(m_library.Call("LPTAvailable"), 1);
+TEST_F(BenchLibrary, ARigThatIsServedAgainIsFoundByTheNextLookForTheAdapter) {
+  ASSERT_EQ(m_library.Call("ReadAdapter", lAddress), 0x88);
+  m_rig.reset();
+  EXPECT_EQ(m_library.Call("ReadAdapter", lAddress), 0);
+  m_rig.emplace(SocketPath());
+  EXPECT_EQ(m_library.Call("ReadAdapter", lAddress), 0);
+  EXPECT_EQ(m_library.Call("IsAdapterConnected", lAddress), 1);
   EXPECT_EQ(m_library.Call("ReadAdapter", lAddress), 0x88);
+}
+
+TEST_F(BenchLibrary, TheRigKeepsItsByteWhenTheLibraryGoes) {
+  {
+    const Library other(TRACKPORT32_BENCH);
+    other.Call("WriteAdapter", lAddress, 0x1F);
+  }
+  EXPECT_TRUE(Shows("power 15"));
 }
 
 TEST_F(BenchLibrary, InputByteIsThatOfTheModel) {
@@ -98,8 +115,7 @@ TEST_F(BenchLibrary, WrittenByteDrivesTheVehicleThroughBothGates) {
 
 TEST_F(BenchLibrary, WriteToAnotherAddressDoesNothing) {
   m_library.Call("WriteAdapter", 0x278, 0x1F);
-  m_library.Call("LPTAvailable");
-  EXPECT_TRUE(Shows("power 0"));
+  EXPECT_EQ(AskRig(SocketPath(), "log"), "");
 }
 
 TEST_F(BenchLibrary, AnalogValueComesFromAnImpact) {
@@ -109,14 +125,22 @@ TEST_F(BenchLibrary, AnalogValueComesFromAnImpact) {
   EXPECT_TRUE(WaitFor([&] { return m_library.Call("ReadAtoD", lAddress, 50000) > 5; }));
 }
 
-TEST_F(BenchLibrary, PulledLeadIsAnAbsentRig) {
-  m_library.Call("LPTAvailable");
+TEST_F(BenchLibrary, PulledLeadLeavesTheAdapterAndASilentRig) {
   AskRig(SocketPath(), "unplug");
-  EXPECT_EQ(m_library.Call("IsAdapterConnected", lAddress), 0);
+  EXPECT_EQ(m_library.Call("IsAdapterConnected", lAddress), 1);
   EXPECT_EQ(m_library.Call("ReadAdapter", lAddress), 0);
   EXPECT_EQ(m_library.Call("ReadAtoD", lAddress, 50000), 0);
   EXPECT_EQ(m_library.Call("LPTAvailable"), 1);
   AskRig(SocketPath(), "plug");
+  EXPECT_EQ(m_library.Call("IsAdapterConnected", lAddress), 1);
+  EXPECT_EQ(m_library.Call("ReadAdapter", lAddress), 0x88);
+}
+
+TEST_F(BenchLibrary, AnAdapterOffItsPortIsNone) {
+  AskRig(SocketPath(), "detach");
+  EXPECT_EQ(m_library.Call("IsAdapterConnected", lAddress), 0);
+  EXPECT_EQ(m_library.Call("ReadAdapter", lAddress), 0);
+  AskRig(SocketPath(), "attach");
   EXPECT_EQ(m_library.Call("IsAdapterConnected", lAddress), 1);
   EXPECT_EQ(m_library.Call("ReadAdapter", lAddress), 0x88);
 }
@@ -136,6 +160,11 @@ TEST_F(BenchLibrary, ShutDownStopsTheVehicle) {
   m_library.Call("CloseLPT", m_library.Call("OpenLPT", 1));
   EXPECT_TRUE(Shows("power 0"));
   EXPECT_TRUE(Shows("direction backward"));
+}
+
+TEST_F(BenchLibrary, OnlyTheLowByteGoesOut) {
+  m_library.Call("WriteAdapter", lAddress, 0x1E8);
+  EXPECT_NE(AskRig(SocketPath(), "log").find(" 0xE8 "), std::string::npos);
 }
 
 TEST(StandIn, OffersEveryOperationAndNoPort) {

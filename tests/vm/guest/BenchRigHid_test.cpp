@@ -7,7 +7,7 @@
 #include <cstdlib>
 
 #include "HidFile.h"
-#include "bench/ControlSocket.h"
+#include "bench/RigClient.h"
 
 namespace glidetrak::bench {
 namespace {
