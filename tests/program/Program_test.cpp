@@ -165,7 +165,9 @@ TEST(Program, ATerminationSignalEndsItInOrder) {
   ASSERT_TRUE(station.RigShows("power 8"));
   kill(static_cast<pid_t>(station.Pid()), SIGTERM);
   EXPECT_TRUE(station.WaitForEnd());
-  EXPECT_TRUE(station.EndedByItself()) << "and so let go of the rig";
+  EXPECT_TRUE(station.EndedByItself());
+  ASSERT_FALSE(station.BytesWritten().isEmpty());
+  EXPECT_EQ(station.BytesWritten().last(), 0) << "the rig was let go of";
 }
 
 }  // namespace glidetrak

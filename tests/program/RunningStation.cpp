@@ -33,14 +33,15 @@ RunningStation::RunningStation(QString sStation)
   m_environment.insert("XDG_RUNTIME_DIR", Folder() + "/run");
   m_environment.insert("XDG_CONFIG_HOME", Folder() + "/config");
   m_environment.insert("XDG_CONFIG_DIRS", Folder() + "/machine");
+  m_environment.insert("GLIDETRAK_BENCH_SOCKET", Folder() + "/rig.socket");
   m_environment.insert("LC_ALL", "C.UTF-8");
   m_environment.remove("QT_QPA_PLATFORM");
   WaitForDisplay();
 }
 
 RunningStation::~RunningStation() {
-  m_station.kill();
-  m_station.waitForFinished();
+  Kill();
+  KillRig();
   m_windowManager.kill();
   m_windowManager.waitForFinished();
   m_display.terminate();
@@ -56,6 +57,7 @@ bool RunningStation::WaitForDisplay() {
 }
 
 bool RunningStation::Launch(const QStringList& aArguments) {
+  if (m_rig.state() == QProcess::NotRunning && !ServeRig()) return false;
   m_station.setProcessEnvironment(m_environment);
   m_station.setWorkingDirectory(Folder());
   m_station.start(m_sStation, aArguments);
@@ -66,6 +68,11 @@ bool RunningStation::Start(const QStringList& aArguments) {
   if (!Launch(aArguments)) return false;
   Wait(iStartupBox);
   return IsRunning();
+}
+
+void RunningStation::Kill() {
+  m_station.kill();
+  m_station.waitForFinished();
 }
 
 bool RunningStation::StartWithChanges() {
@@ -271,6 +278,26 @@ QString RunningStation::Rig(const QStringList& aArguments) {
 
 bool RunningStation::RigShows(const QString& sLine) {
   return WaitUntil([&] { return Rig({"state"}).split(u'\n').contains(sLine); });
+}
+
+bool RunningStation::ServeRig() {
+  m_rig.setProcessEnvironment(m_environment);
+  m_rig.start(GLIDETRAK_BENCH_RIG, {"serve"});
+  return m_rig.waitForReadyRead(iPatience) && m_rig.readAll().startsWith("serving");
+}
+
+void RunningStation::KillRig() {
+  m_rig.kill();
+  m_rig.waitForFinished();
+}
+
+/// A line of the record reads "3: 2417 ms 0x18 power 8 forward".
+QList<int> RunningStation::BytesWritten() {
+  QList<int> aBytes;
+  for (const QString& sLine : Rig({"log"}).split(u'\n', Qt::SkipEmptyParts)) {
+    aBytes.append(sLine.section(u' ', 3, 3).toInt(nullptr, 16));
+  }
+  return aBytes;
 }
 
 void RunningStation::Picture(const QString& sName) {

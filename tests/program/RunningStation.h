@@ -1,10 +1,12 @@
 #pragma once
 
-// The built station on a display of its own, with the bench rig: started, clicked and typed at like
-// a user would, and watched through its windows, its files and the rig's state.
+// The built station on a display of its own, with a bench rig of its own: started, clicked and
+// typed at like a user would, and watched through its windows, its files, and the rig's state and
+// record. The rig is a process that the station's end does not touch.
 
 #include <QByteArray>
 #include <QElapsedTimer>
+#include <QList>
 #include <QProcess>
 #include <QProcessEnvironment>
 #include <QString>
@@ -76,7 +78,8 @@ class RunningStation {
   explicit RunningStation(QString sStation = GLIDETRAK_STATION);
   ~RunningStation();
 
-  /// Starts the station, up to its window; the start-up box comes next. False without a window.
+  /// Starts the station, up to its window; the start-up box comes next. Serves the rig first when
+  /// none is served yet. False without a window.
   bool Launch(const QStringList& aArguments = {});
   /// The same, up to where the start-up box has gone.
   bool Start(const QStringList& aArguments = {});
@@ -96,6 +99,8 @@ class RunningStation {
     return m_station.exitStatus() == QProcess::CrashExit ? m_station.exitCode() : 0;
   }
   qint64 Pid() const { return m_station.processId(); }
+  /// Ends the station without its knowledge.
+  void Kill();
 
   void Click(Place place);
   /// The same where a window manager has put the window, and a frame around it.
@@ -147,6 +152,13 @@ class RunningStation {
   /// Waits until the rig's state holds that line; false after five seconds.
   bool RigShows(const QString& sLine);
   QString Rig(const QStringList& aArguments);
+  /// Serves the rig again, a new one at its city station; false when it does not come.
+  bool ServeRig();
+  /// Ends the rig without its knowledge; its socket stays behind.
+  void KillRig();
+  qint64 RigPid() const { return m_rig.processId(); }
+  /// The bytes that the rig was handed since it was served, the last thousand of them.
+  QList<int> BytesWritten();
 
   /// Writes the root window's picture beside the test's results.
   void Picture(const QString& sName);
@@ -175,6 +187,7 @@ class RunningStation {
   QProcessEnvironment m_environment;
   QProcess m_display;
   QProcess m_windowManager;
+  QProcess m_rig;
   QProcess m_station;
 };
 
