@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <cstring>
 
+#include "bench/DeviceNode.h"
 #include "bench/ReportDescriptor.h"
 #include "bench/WorkerThread.h"
 
@@ -38,7 +39,7 @@ void UhidDevice::Plug() {
   Unplug();  // what a device that vanished by itself has left
   Create();
   m_stop = FileDescriptor(eventfd(0, EFD_CLOEXEC));
-  m_nodeDue = Clock::now() + nodePatience;
+  if (m_config.iUser >= 0) m_nodeDue = Clock::now() + nodePatience;
   m_bIn = true;
   m_thread = StartWorker([this] { Serve(); });
 }
@@ -157,6 +158,7 @@ void UhidDevice::TakeReport(const uhid_event& event) {
   Count([&](UhidCounts& counts) {
     if (counts.aReports.size() == iKeptReports) counts.aReports.erase(counts.aReports.begin());
     counts.aReports.push_back(data);
+    ++counts.iTaken;
   });
   ReportBytes answer =
       m_rig.With([&](Rig& rig) { return AnswerReport(rig, data, m_config.iInputLength); });

@@ -11,9 +11,9 @@
 //   In -> Out    [Unplug], or by itself when the fault Vanish strikes
 //
 // Needs /dev/uhid, which is root's. The device appears to programs a moment after Plug returns,
-// since the kernel makes its node behind our back; another moment later the node belongs to the
-// device's user (DeviceNode.h). The kernel passes a version on to nobody for a device without a
-// bus, so programs that ask for it read 0 whatever iVersion says.
+// since the kernel makes its node behind our back, and its user gets the node another moment later.
+// The kernel passes a version on to nobody for a device without a bus, so programs that ask for it
+// read 0 whatever iVersion says.
 
 #include <atomic>
 #include <chrono>
@@ -22,7 +22,6 @@
 #include <thread>
 #include <vector>
 
-#include "bench/DeviceNode.h"
 #include "bench/FileDescriptor.h"
 #include "bench/LiveRig.h"
 #include "bench/RigProtocol.h"
@@ -38,7 +37,7 @@ struct UhidConfig {
   int iVersion = 0x0100;
   int iInputLength = 64;
   int iOutputLength = 64;
-  int iUser = NodeUser();  ///< to whom the node is given
+  int iUser = -1;  ///< to whom the node is given (DeviceNode.h); -1 leaves it as the kernel made it
 };
 
 enum class UhidFault {
@@ -59,6 +58,7 @@ constexpr size_t iKeptReports = 256;
 struct UhidCounts {
   int iOpened = 0;                    ///< times that the first program opened it
   int iClosed = 0;                    ///< times that the last program closed it
+  int iTaken = 0;                     ///< output reports taken, in all
   int iAnswers = 0;                   ///< input reports sent
   std::vector<ReportBytes> aReports;  ///< the last iKeptReports output reports, behind the id
 };
@@ -116,7 +116,7 @@ class UhidDevice {
   std::thread m_thread;
   std::atomic<bool> m_bIn = false;
   std::deque<Deed> m_aDeeds;    ///< of the thread alone, in the order of their reports
-  Clock::time_point m_nodeDue;  ///< until then the node is looked for; 0 when it was handed over
+  Clock::time_point m_nodeDue;  ///< until then the node is looked for; 0 when there is no need
 
   mutable std::mutex m_mutex;  ///< over all that follows
   UhidFault m_fault = UhidFault::None;

@@ -7,6 +7,7 @@
 #include <exception>
 #include <string>
 
+#include "bench/DeviceNode.h"
 #include "bench/LiveRig.h"
 #include "bench/RigClient.h"
 #include "bench/RigCommands.h"
@@ -86,7 +87,7 @@ int ServeHid() {
   LiveRig rig;
   WireServer server(sName);
   const EndBySignals signals(server);
-  UhidDevice device(rig);
+  UhidDevice device(rig, {.iUser = NodeUser()});
   device.Plug();
   TellPlace(sName);
   ServeRig(rig, server, [&] { FollowAdapter(rig, device); });
