@@ -12,6 +12,9 @@
 namespace glidetrak::bench {
 namespace {
 
+/// For the shell, where the program is $rig.
+const std::string sRig = std::string("rig='") + BENCH_RIG + "'; ";
+
 /// `bench-rig serve`, up to where it can be spoken to.
 class RigProcess {
  public:
@@ -104,17 +107,20 @@ TEST_F(BenchRig, EndsInOrderBySignalAndTakesItsSocketAlong) {
 }
 
 TEST_F(BenchRig, ASignalThatWasIgnoredStaysIgnored) {
-  const std::string sStart = std::string("trap '' INT; '") + BENCH_RIG + "' serve & ";
-  const ShellResult result = Shell(sStart + "id=$!; sleep 0.5; kill -INT $id; sleep 0.3; '" +
-                                   BENCH_RIG + "' log && echo alive; kill $id; wait $id; echo $?");
+  const ShellResult result =
+      Shell(sRig +
+            "trap '' INT; $rig serve & id=$!; until $rig state >/dev/null 2>&1; do :; done; "
+            "kill -INT $id; sleep 0.3; $rig log && echo alive; kill $id; wait $id; echo $?");
   EXPECT_EQ(result.sText, "serving a rig at " + SocketPath() + "\nalive\n0\n");
 }
 
 TEST_F(BenchRig, StartersAtOnceEndAsOneRigAndOneMessageEach) {
-  const std::string sOne = "('" + std::string(BENCH_RIG) + "' serve & echo $! >>ids; wait $!) & ";
-  std::string sAll = "cd '" + m_folder.string() + "'; ";
-  for (int i = 0; i < 8; ++i) sAll += sOne;
-  const ShellResult result = Shell(sAll + "sleep 1; kill $(cat ids) 2>/dev/null; wait");
+  const ShellResult result =
+      Shell(sRig + "cd '" + m_folder.string() +
+            "'; for i in 1 2 3 4 5 6 7 8; do "
+            "($rig serve & echo $! >>ids; wait $!; echo >>ended) & done; "
+            "until [ \"$(cat ended 2>/dev/null | wc -l)\" = 7 ]; do sleep 0.1; done; "
+            "kill $(cat ids) 2>/dev/null; wait");
   std::string sRest = result.sText;
   const auto Remove = [&](const std::string& sLine) {
     int iCount = 0;
@@ -171,7 +177,7 @@ TEST_F(BenchRig, AByteThatOnlyTheWireHeldIsNeverCarriedOutBehindALaterOne) {
   rig.Signal(SIGSTOP);
   EXPECT_EQ(client.Exchange(RigAct::WriteByte, 0x1F), std::nullopt);
   rig.Signal(SIGCONT);
-  ASSERT_EQ(client.StartAgain(RigAct::AskAdapter), 1);
+  ASSERT_TRUE(WaitFor([&] { return client.StartAgain(RigAct::AskAdapter) == 1; }));
   ASSERT_EQ(client.Exchange(RigAct::WriteByte, 0), 0);
   const std::string sLog = AskRig(SocketPath(), "log");
   EXPECT_NE(sLog.find(" 0x1F power 15 forward\n2: "), std::string::npos) << sLog;
@@ -214,7 +220,8 @@ TEST_F(FullDisk, RefusesToServeWhereTheSocketCannotBeNotedAndLeavesNone) {
 TEST_F(FullDisk, ARigThatIsServedNeedsNoRoom) {
   const ShellResult result =
       OnDisk("size=8k",
-             "\"$rig\" serve & id=$!; sleep 0.5; head -c 99999 /dev/zero >\"$d/full\" 2>/dev/null; "
+             "\"$rig\" serve & id=$!; until \"$rig\" state >/dev/null 2>&1; do :; done; head -c "
+             "99999 /dev/zero >\"$d/full\" 2>/dev/null; "
              "\"$rig\" place 300; \"$rig\" state | head -n 1; kill $id; wait $id; echo $?");
   if (result.iExitCode == 77 || getuid() != 0) GTEST_SKIP() << "only root can mount a disk";
   const std::string sPath = m_folder / "disk" / "s";

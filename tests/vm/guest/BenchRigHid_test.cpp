@@ -7,6 +7,7 @@
 
 #include <csignal>
 #include <cstdlib>
+#include <ctime>
 
 #include "HidFile.h"
 #include "bench/RigClient.h"
@@ -95,6 +96,26 @@ TEST_F(BenchRigHid, TheNodeIsGivenToWhoCalledSudoEachTimeTheDeviceComes) {
   ASSERT_TRUE(WaitForDevices(0));
   AskRig(sSocket, "attach");
   EXPECT_TRUE(WaitFor(IsGiven));
+}
+
+/// Here, since nobody may turn the clock of the machine that tests.
+TEST_F(BenchRigHid, AClockThatIsTurnedMovesNothing) {
+  ASSERT_TRUE(WaitForDevices(1));
+  const auto TurnClock = [](int iDays) {
+    timespec time{};
+    clock_gettime(CLOCK_REALTIME, &time);
+    time.tv_sec += iDays * 24 * 3600;
+    return clock_settime(CLOCK_REALTIME, &time) == 0;
+  };
+  AskRig(sSocket, "press CITY_CALL 60000");
+  ASSERT_TRUE(TurnClock(2));
+  EXPECT_NE(AskRig(sSocket, "state").find("inputs CITY_CALL LIGHT_SENSOR\n"), std::string::npos);
+  ASSERT_TRUE(TurnClock(-2));
+  EXPECT_NE(AskRig(sSocket, "state").find("inputs CITY_CALL LIGHT_SENSOR\n"), std::string::npos);
+  AskRig(sSocket, "press CITY_CALL 50");
+  EXPECT_TRUE(WaitFor([] {
+    return AskRig(sSocket, "state").find("inputs LIGHT_SENSOR\n") != std::string::npos;
+  })) << "time goes on";
 }
 
 TEST_F(BenchRigHid, EndsWhenAskedAndTakesTheDeviceAlong) {
