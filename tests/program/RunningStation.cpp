@@ -300,6 +300,11 @@ QList<int> RunningStation::BytesWritten() {
   return aBytes;
 }
 
+int RunningStation::LastByteWritten() {
+  const QList<int> aBytes = BytesWritten();
+  return aBytes.isEmpty() ? -1 : aBytes.last();
+}
+
 void RunningStation::Picture(const QString& sName) {
   QDir().mkpath(GLIDETRAK_PICTURES);
   Output("import", {"-window", "root", QString(GLIDETRAK_PICTURES) + '/' + sName + ".png"});

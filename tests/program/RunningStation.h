@@ -159,6 +159,8 @@ class RunningStation {
   qint64 RigPid() const { return m_rig.processId(); }
   /// The bytes that the rig was handed since it was served, the last thousand of them.
   QList<int> BytesWritten();
+  /// -1 when there is none.
+  int LastByteWritten();
 
   /// Writes the root window's picture beside the test's results.
   void Picture(const QString& sName);
