@@ -74,6 +74,28 @@ TEST_F(WireTest, AClientThatNeverReadsIsNotReadAnyMoreEither) {
   EXPECT_TRUE(Answers());
 }
 
+/// Far more than the system holds for a connection.
+TEST_F(WireTest, AClientThatReadsLateGetsAllItsAnswers) {
+  const ServedRig rig(SocketPath());
+  RigClient library;
+  for (size_t i = 0; i < iKeptBytes; ++i) library.Exchange(RigAct::WriteByte, 0x18);
+  const size_t iLog = AskRig(SocketPath(), "log").size();
+  std::string sMany = sHello;
+  for (int i = 0; i < 50; ++i) sMany += "log\n";
+  WireConnection late = Talk(SocketPath(), sMany);
+  std::this_thread::sleep_for(std::chrono::milliseconds(200));
+  EXPECT_TRUE(Answers());
+  const size_t iExpected = sHello.size() + 50 * (iLog + 4 + std::to_string(iLog).size());
+  std::string sAll(iExpected, ' ');
+  size_t iHave = 0;
+  while (iHave < iExpected) {
+    const size_t iMore = late.Receive(sAll.data() + iHave, iExpected - iHave, Within(5000));
+    if (iMore == 0) break;
+    iHave += iMore;
+  }
+  EXPECT_EQ(iHave, iExpected);
+}
+
 TEST_F(WireTest, AMillionExchangesOfOneClientKeepNobodyWaiting) {
   const ServedRig rig(SocketPath());
   WireConnection busy = Talk(SocketPath(), sHello);
