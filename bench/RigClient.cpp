@@ -12,15 +12,11 @@ constexpr size_t iLongestAnswer = 1 << 20;  ///< bytes; the record's text is a s
 const std::string sAccepted = "ok ";        ///< the beginnings of the first line of an answer
 const std::string sRefused = "error: ";
 
-Deadline Within(std::chrono::milliseconds time) {
-  return std::chrono::steady_clock::now() + time;
-}
-
 /// Without its line feed; nothing when none comes or it is too long.
-std::optional<std::string> ReceiveLine(WireConnection& connection, Deadline deadline) {
+std::optional<std::string> ReceiveLine(WireConnection& connection) {
   std::string sLine;
   char cByte = 0;
-  while (sLine.size() < iLongestLine && connection.Receive(&cByte, 1, deadline) == 1) {
+  while (sLine.size() < iLongestLine && connection.Receive(&cByte, 1) == 1) {
     if (cByte == '\n') return sLine;
     sLine += cByte;
   }
@@ -28,10 +24,10 @@ std::optional<std::string> ReceiveLine(WireConnection& connection, Deadline dead
 }
 
 /// True when all of it came.
-bool ReceiveWhole(WireConnection& connection, char* pBytes, size_t iCount, Deadline deadline) {
+bool ReceiveWhole(WireConnection& connection, char* pBytes, size_t iCount) {
   size_t iHave = 0;
   while (iHave < iCount) {
-    const size_t iMore = connection.Receive(pBytes + iHave, iCount - iHave, deadline);
+    const size_t iMore = connection.Receive(pBytes + iHave, iCount - iHave);
     if (iMore == 0) return false;
     iHave += iMore;
   }
@@ -65,24 +61,24 @@ void CheckGreeting(const std::string& sName, const std::optional<std::string>& s
 
 std::optional<int> RigClient::Exchange(RigAct act, int iByte) {
   if (m_state == State::Lost) return {};
-  const Deadline deadline = Within(exchangeTime);
-  if (m_state == State::Unused && !Open(deadline)) return {};
-  return Ask(act, iByte, deadline);
+  m_connection.Allow(exchangeTime);
+  if (m_state == State::Unused && !Open()) return {};
+  return Ask(act, iByte);
 }
 
 std::optional<int> RigClient::StartAgain(RigAct act) {
-  const Deadline deadline = Within(exchangeTime);
-  if (!Open(deadline)) return {};
-  return Ask(act, 0, deadline);
+  m_connection.Allow(exchangeTime);
+  if (!Open()) return {};
+  return Ask(act, 0);
 }
 
 /// The greeting is sent and its answer awaited before anything is asked: a rig of another version
 /// is never written to.
-bool RigClient::Open(Deadline deadline) {
+bool RigClient::Open() {
   m_state = State::Lost;
   try {
-    if (m_connection.Connect(WireName(), deadline) && m_connection.Send(Greeting(), deadline)) {
-      CheckGreeting({}, ReceiveLine(m_connection, deadline));
+    if (m_connection.Connect(WireName()) && m_connection.Send(Greeting())) {
+      CheckGreeting({}, ReceiveLine(m_connection));
       m_state = State::Open;
     }
   } catch (const std::exception&) {
@@ -92,11 +88,11 @@ bool RigClient::Open(Deadline deadline) {
   return m_state == State::Open;
 }
 
-std::optional<int> RigClient::Ask(RigAct act, int iByte, Deadline deadline) {
+std::optional<int> RigClient::Ask(RigAct act, int iByte) {
   const char aQuestion[] = {static_cast<char>(act), static_cast<char>(iByte)};
   char aAnswer[iExchangeBytes] = {};
-  if (m_connection.Send({aQuestion, sizeof aQuestion}, deadline) &&
-      ReceiveWhole(m_connection, aAnswer, sizeof aAnswer, deadline) && aAnswer[0] == aQuestion[0]) {
+  if (m_connection.Send({aQuestion, sizeof aQuestion}) &&
+      ReceiveWhole(m_connection, aAnswer, sizeof aAnswer) && aAnswer[0] == aQuestion[0]) {
     return static_cast<unsigned char>(aAnswer[1]);
   }
   m_connection.Close();
@@ -105,19 +101,19 @@ std::optional<int> RigClient::Ask(RigAct act, int iByte, Deadline deadline) {
 }
 
 std::string AskRig(const std::string& sName, const std::string& sLine) {
-  const Deadline deadline = Within(commandTime);
   WireConnection connection;
-  if (!connection.Connect(sName, deadline)) throw std::runtime_error("no rig answers at " + sName);
-  connection.Send(Greeting() + sLine + "\n", deadline);
-  CheckGreeting(sName, ReceiveLine(connection, deadline));
-  const std::string sFirst = ReceiveLine(connection, deadline).value_or("");
+  connection.Allow(commandTime);
+  if (!connection.Connect(sName)) throw std::runtime_error("no rig answers at " + sName);
+  connection.Send(Greeting() + sLine + "\n");
+  CheckGreeting(sName, ReceiveLine(connection));
+  const std::string sFirst = ReceiveLine(connection).value_or("");
   if (sFirst.rfind(sRefused, 0) == 0) {
     throw std::runtime_error("the rig refused: " + sFirst.substr(sRefused.size()));
   }
   const std::optional<size_t> iLength =
       sFirst.rfind(sAccepted, 0) == 0 ? AnnouncedLength(sFirst) : std::nullopt;
   std::string sText(iLength.value_or(0), '\0');
-  if (!iLength || !ReceiveWhole(connection, sText.data(), sText.size(), deadline)) {
+  if (!iLength || !ReceiveWhole(connection, sText.data(), sText.size())) {
     throw std::runtime_error("the rig at " + sName + " does not answer");
   }
   return sText;

@@ -32,8 +32,8 @@ class RigClient {
  private:
   enum class State { Unused, Open, Lost };
 
-  bool Open(Deadline deadline);
-  std::optional<int> Ask(RigAct act, int iByte, Deadline deadline);
+  bool Open();
+  std::optional<int> Ask(RigAct act, int iByte);
 
   WireConnection m_connection;
   State m_state = State::Unused;

@@ -4,9 +4,8 @@
 // bytes mean stands in WireProtocol.h; how they travel stands in one source file for each system
 // (WireUnix.cpp: a Unix socket).
 //
-// Everything has a limit: a connection is given a point in time by which each of its acts is over,
-// and a server never waits for one client. Only the user whose rig it is, and root, are listened
-// to.
+// Everything has a limit: a connection is told how long it may wait, and a server never waits for
+// one client. Only the user whose rig it is, and root, are listened to.
 
 #include <chrono>
 #include <cstddef>
@@ -19,8 +18,6 @@
 
 namespace glidetrak::bench {
 
-using Deadline = std::chrono::steady_clock::time_point;
-
 /// Where the rig of this user is served: the environment's GLIDETRAK_BENCH_SOCKET, else a place of
 /// the system. Throws std::runtime_error when that place belongs to somebody else.
 std::string WireName();
@@ -30,27 +27,35 @@ class WireConnection {
  public:
   WireConnection() = default;
   ~WireConnection() { Close(); }
-  WireConnection(WireConnection&& other) noexcept : m_file(std::exchange(other.m_file, iNone)) {}
+  WireConnection(WireConnection&& other) noexcept
+      : m_file(std::exchange(other.m_file, iNone)), m_left(other.m_left) {}
   WireConnection& operator=(WireConnection&& other) noexcept {
     std::swap(m_file, other.m_file);
+    std::swap(m_left, other.m_left);
     return *this;
   }
 
-  /// False when nobody takes the connection by then. A connection that was open is closed first.
-  bool Connect(const std::string& sName, Deadline deadline);
+  /// All acts from now on may wait that long together; without a word they do not wait at all. It
+  /// is counted in steps of 10 ms: a machine on which everything stood still for a while takes one
+  /// step away, so that the other side has its time to answer behind that.
+  void Allow(std::chrono::microseconds time) { m_left = time; }
 
-  /// False when not all of it could be handed over by then.
-  bool Send(std::string_view bytes, Deadline deadline);
+  /// False when nobody takes the connection. A connection that was open is closed first.
+  bool Connect(const std::string& sName);
+
+  /// False when not all of it could be handed over.
+  bool Send(std::string_view bytes);
 
   /// Between 1 and iMost bytes; 0 when the other side has gone or the time is up.
-  size_t Receive(char* pBytes, size_t iMost, Deadline deadline);
+  size_t Receive(char* pBytes, size_t iMost);
 
   void Close();
 
  private:
   static constexpr std::intptr_t iNone = -1;
 
-  std::intptr_t m_file = iNone;  ///< the system's own name for it
+  std::intptr_t m_file = iNone;         ///< the system's own name for it
+  std::chrono::microseconds m_left{0};  ///< that may still be waited
 };
 
 /// What a server does next with a client.

@@ -26,7 +26,8 @@ constexpr int iWireVersion = 1;
 constexpr size_t iLongestLine = 256;  ///< bytes, the line feed counted
 constexpr size_t iExchangeBytes = 2;
 
-/// The most that the library waits for one exchange, connecting included: ten ticks of the station.
+/// The most that the library waits for one exchange, connecting included (WireConnection::Allow):
+/// ten ticks of the station.
 constexpr std::chrono::milliseconds exchangeTime{50};
 
 /// The most that a command waits.

@@ -21,7 +21,8 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-constexpr std::chrono::milliseconds fullPause{2};  ///< between two tries at a server with a queue
+constexpr std::chrono::microseconds waitStep{10'000};
+constexpr std::chrono::microseconds fullPause{2'000};  ///< between tries at a server with a queue
 
 std::string Variable(const char* sName) {
   const char* sValue = std::getenv(sName);
@@ -40,15 +41,21 @@ std::string OwnFolder() {
   return sFolder;
 }
 
-/// Waits until the file is ready for those events; false when the time is up. A signal that is
-/// handled on the way makes it no shorter.
-bool WaitFor(int iFile, short iEvents, Deadline deadline) {
+/// Waits until the file is ready for those events; false when no time is left. A signal that is
+/// handled on the way makes it no longer and no shorter.
+bool WaitFor(int iFile, short iEvents, std::chrono::microseconds& left) {
   while (true) {
-    const auto left = std::chrono::ceil<std::chrono::milliseconds>(deadline - Clock::now());
+    const auto step = std::clamp(left, std::chrono::microseconds(0), waitStep);
+    const auto start = Clock::now();
     pollfd wait{iFile, iEvents, 0};
-    const int iReady = poll(&wait, 1, static_cast<int>(std::max<std::int64_t>(0, left.count())));
+    const int iWait = static_cast<int>(std::chrono::ceil<std::chrono::milliseconds>(step).count());
+    const int iReady = poll(&wait, 1, iWait);
+    const bool bInterrupted = iReady < 0 && errno == EINTR;
+    const auto passed = std::chrono::ceil<std::chrono::microseconds>(Clock::now() - start);
+    left -= std::min(step, passed);
     if (iReady > 0) return true;
-    if (iReady == 0 || errno != EINTR) return false;
+    if (iReady < 0 && !bInterrupted) return false;
+    if (step == step.zero() && !bInterrupted) return false;
   }
 }
 
@@ -73,37 +80,38 @@ std::string WireName() {
   return (sRunTime.empty() ? OwnFolder() : sRunTime) + "/glidetrak-bench.socket";
 }
 
-bool WireConnection::Connect(const std::string& sName, Deadline deadline) {
+bool WireConnection::Connect(const std::string& sName) {
   Close();
   const sockaddr_un address = SocketAddress(sName);
   FileDescriptor file(socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0));
   if (file.Number() < 0) return false;
   // A server whose queue is full is tried again; there is nothing to wait for meanwhile.
   while (connect(file.Number(), reinterpret_cast<const sockaddr*>(&address), sizeof address) != 0) {
-    if (!IsForLater(-1) || Clock::now() + fullPause > deadline) return false;
+    if (!IsForLater(-1) || m_left < fullPause) return false;
     std::this_thread::sleep_for(fullPause);
+    m_left -= fullPause;
   }
   m_file = file.Release();
   return true;
 }
 
-bool WireConnection::Send(std::string_view bytes, Deadline deadline) {
+bool WireConnection::Send(std::string_view bytes) {
   const int iFile = static_cast<int>(m_file);
   while (!bytes.empty()) {
     const ssize_t iCount = send(iFile, bytes.data(), bytes.size(), MSG_NOSIGNAL);
     if (iCount > 0) bytes.remove_prefix(static_cast<size_t>(iCount));
     if (iCount > 0) continue;
-    if (!IsForLater(iCount) || !WaitFor(iFile, POLLOUT, deadline)) return false;
+    if (!IsForLater(iCount) || !WaitFor(iFile, POLLOUT, m_left)) return false;
   }
   return true;
 }
 
-size_t WireConnection::Receive(char* pBytes, size_t iMost, Deadline deadline) {
+size_t WireConnection::Receive(char* pBytes, size_t iMost) {
   const int iFile = static_cast<int>(m_file);
   while (true) {
     const ssize_t iCount = recv(iFile, pBytes, iMost, 0);
     if (iCount >= 0) return static_cast<size_t>(iCount);
-    if (!IsForLater(iCount) || !WaitFor(iFile, POLLIN, deadline)) return 0;
+    if (!IsForLater(iCount) || !WaitFor(iFile, POLLIN, m_left)) return 0;
   }
 }
 

@@ -70,24 +70,22 @@ class ServedRig {
   ServedWire m_wire;
 };
 
-inline Deadline Within(int iMilliseconds) {
-  return std::chrono::steady_clock::now() + std::chrono::milliseconds(iMilliseconds);
-}
-
-/// A connection that has sent that and stays open.
+/// A connection that has sent that and stays open, and may wait for two seconds more.
 inline WireConnection Talk(const std::string& sName, const std::string& sText) {
   WireConnection connection;
-  EXPECT_TRUE(connection.Connect(sName, Within(2000)));
-  EXPECT_TRUE(connection.Send(sText, Within(2000)));
+  connection.Allow(std::chrono::seconds(2));
+  EXPECT_TRUE(connection.Connect(sName));
+  EXPECT_TRUE(connection.Send(sText));
+  connection.Allow(std::chrono::seconds(2));
   return connection;
 }
 
 /// All that comes within that time, or up to where the other side hangs up.
-inline std::string Hear(WireConnection& connection, int iMilliseconds) {
+inline std::string Hear(WireConnection& connection, std::chrono::milliseconds time) {
   std::string sText;
   char aPiece[512];
-  const Deadline deadline = Within(iMilliseconds);
-  while (const size_t iCount = connection.Receive(aPiece, sizeof aPiece, deadline)) {
+  connection.Allow(time);
+  while (const size_t iCount = connection.Receive(aPiece, sizeof aPiece)) {
     sText.append(aPiece, iCount);
   }
   return sText;

@@ -59,9 +59,10 @@ TEST_F(WireTest, HalfALineKeepsNobodyWaiting) {
 TEST_F(WireTest, AMegabyteWithoutAnEndIsHungUpOn) {
   const ServedRig rig(SocketPath());
   WireConnection talker = Talk(SocketPath(), sHello);
-  EXPECT_FALSE(talker.Send(std::string(1 << 20, 'x'), Within(5000)));
+  EXPECT_FALSE(talker.Send(std::string(1 << 20, 'x')));
   EXPECT_TRUE(Answers());
-  EXPECT_EQ(Hear(talker, 5000), sHello + "error: a line has at most 255 characters\n");
+  EXPECT_EQ(Hear(talker, std::chrono::milliseconds(5000)),
+            sHello + "error: a line has at most 255 characters\n");
 }
 
 /// Each answer is some hundred bytes; the ten thousand would be a megabyte in the server's memory.
@@ -70,7 +71,7 @@ TEST_F(WireTest, AClientThatNeverReadsIsNotReadAnyMoreEither) {
   WireConnection deaf = Talk(SocketPath(), sHello);
   std::string sMany;
   for (int i = 0; i < 500'000; ++i) sMany += "state\n";
-  EXPECT_FALSE(deaf.Send(sMany, Within(1000)));
+  EXPECT_FALSE(deaf.Send(sMany));
   EXPECT_TRUE(Answers());
 }
 
@@ -87,9 +88,10 @@ TEST_F(WireTest, AClientThatReadsLateGetsAllItsAnswers) {
   EXPECT_TRUE(Answers());
   const size_t iExpected = sHello.size() + 50 * (iLog + 4 + std::to_string(iLog).size());
   std::string sAll(iExpected, ' ');
+  late.Allow(std::chrono::seconds(10));
   size_t iHave = 0;
   while (iHave < iExpected) {
-    const size_t iMore = late.Receive(sAll.data() + iHave, iExpected - iHave, Within(5000));
+    const size_t iMore = late.Receive(sAll.data() + iHave, iExpected - iHave);
     if (iMore == 0) break;
     iHave += iMore;
   }
@@ -101,7 +103,7 @@ TEST_F(WireTest, AMillionExchangesOfOneClientKeepNobodyWaiting) {
   WireConnection busy = Talk(SocketPath(), sHello);
   std::thread sender([&] {
     const std::string sReads(1000, '\2');
-    for (int i = 0; i < 2000 && busy.Send(sReads, Within(5000)); ++i) Hear(busy, 0);
+    for (int i = 0; i < 2000 && busy.Send(sReads); ++i) Hear(busy, std::chrono::milliseconds(0));
   });
   for (int i = 0; i < 20; ++i) EXPECT_TRUE(Answers());
   sender.join();
@@ -129,16 +131,17 @@ TEST_F(WireTest, ManySilentClientsDoNotCostTheOneThatSpeaksItsConnection) {
 TEST_F(WireTest, TheClientThatWasSilentLongestGoesWhenThereAreTooMany) {
   const ServedRig rig(SocketPath());
   WireConnection first = Talk(SocketPath(), sHello);
-  EXPECT_EQ(Hear(first, 100), sHello);
+  EXPECT_EQ(Hear(first, std::chrono::milliseconds(100)), sHello);
   std::vector<WireConnection> aLater;
   for (size_t i = 0; i < iMostClients; ++i) {
     aLater.push_back(Talk(SocketPath(), sHello));
     char cFirst = 0;
-    EXPECT_EQ(aLater.back().Receive(&cFirst, 1, Within(2000)), 1u);
+    EXPECT_EQ(aLater.back().Receive(&cFirst, 1), 1u);
   }
   char cByte = 0;
+  first.Allow(std::chrono::seconds(5));
   const auto start = std::chrono::steady_clock::now();
-  EXPECT_EQ(first.Receive(&cByte, 1, Within(5000)), 0u);
+  EXPECT_EQ(first.Receive(&cByte, 1), 0u);
   EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(4))
       << "it was hung up on";
 }
@@ -160,10 +163,11 @@ TEST_F(WireTest, AnotherUserIsNotListenedTo) {
   const pid_t process = fork();
   if (process == 0) {
     WireConnection stranger;
-    const bool bStranger = setuid(65534) == 0 && stranger.Connect(SocketPath(), Within(2000));
+    stranger.Allow(std::chrono::seconds(2));
+    const bool bStranger = setuid(65534) == 0 && stranger.Connect(SocketPath());
     char cByte = 0;
-    stranger.Send(sHello, Within(2000));
-    _exit(bStranger && stranger.Receive(&cByte, 1, Within(2000)) == 0 ? 0 : 1);
+    stranger.Send(sHello);
+    _exit(bStranger && stranger.Receive(&cByte, 1) == 0 ? 0 : 1);
   }
   int iStatus = -1;
   waitpid(process, &iStatus, 0);
