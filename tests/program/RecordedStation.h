@@ -7,8 +7,6 @@
 
 namespace glidetrak {
 
-constexpr Place placeLeverHigh{324, 480};  ///< below the start-up box
-
 /// The station beside a library that writes each call of the rig down (recording/trackport32.cpp),
 /// driven by hand while the start-up box is still there.
 class RecordedStation : public RunningStation {

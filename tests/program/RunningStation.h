@@ -34,6 +34,7 @@ constexpr Place placeEmergency{522, 600};
 constexpr Place placeReset{568, 573};
 constexpr Place placeLeverFoot{324, 595};
 constexpr Place placeLeverTop{324, 427};
+constexpr Place placeLeverHigh{324, 480};  ///< below the start-up box
 constexpr Place placeTimingToggle{61, 340};
 constexpr Place placeEditor{720, 450};
 constexpr Place placeShowPresets{898, 313};

@@ -47,6 +47,28 @@ int Starts() {
   return iWanted > 0 ? iWanted : 10;
 }
 
+/// A way out of the station that leaves the rig's process alone; a signal by its number.
+struct WayOut {
+  const char* sName;
+  int iSignal = 0;
+};
+
+void PrintTo(const WayOut& way, std::ostream* pStream) {
+  *pStream << way.sName;
+}
+
+void LeaveBy(RunningStation& station, const WayOut& way) {
+  if (way.iSignal != 0) {
+    kill(static_cast<pid_t>(station.Pid()), way.iSignal);
+  } else if (QString(way.sName) == "TheDisplaysEnd") {
+    station.KillDisplay();
+  } else {
+    station.KillWindow();
+  }
+}
+
+class EveryWayOut : public testing::TestWithParam<WayOut> {};
+
 /// Waits until the rig was handed that as its last byte.
 bool IsHanded(RunningStation& station, int iByte) {
   for (int i = 0; i < 100 && station.LastByteWritten() != iByte; ++i) Wait(50);
@@ -115,6 +137,26 @@ TEST(StationAndRig, AnAdapterOffItsPortIsToldOnceAndFoundAgain) {
   station.Rig({"attach"});
   ExpectLink(station);
 }
+
+TEST_P(EveryWayOut, EndsInAZeroOnTheRigsRecord) {
+  RunningStation station;
+  ASSERT_TRUE(station.Launch());
+  station.Drag(placeLeverFoot, placeLeverHigh);
+  ASSERT_TRUE(WaitUntil([&] { return station.LastByteWritten() > iForward; }));
+  LeaveBy(station, GetParam());
+  EXPECT_TRUE(station.WaitForEnd());
+  const QList<int> aBytes = station.BytesWritten();
+  EXPECT_EQ(aBytes.last(), 0);
+  EXPECT_GT(aBytes[aBytes.size() - 2], iForward) << "one zero and no second one";
+  EXPECT_TRUE(station.RigShows("power 0"));
+}
+
+INSTANTIATE_TEST_SUITE_P(Rows, EveryWayOut,
+                         testing::Values(WayOut{"TheDisplaysEnd"}, WayOut{"TheWindowsEnd"},
+                                         WayOut{"Terminate", SIGTERM}, WayOut{"HangUp", SIGHUP},
+                                         WayOut{"Interrupt", SIGINT}, WayOut{"Quit", SIGQUIT},
+                                         WayOut{"Crash", SIGSEGV}, WayOut{"Abort", SIGABRT}),
+                         [](const auto& info) { return info.param.sName; });
 
 TEST(StationAndRig, StartsAndEndsInARowLeaveItStopped) {
   RunningStation station;
