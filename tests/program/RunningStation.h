@@ -137,9 +137,9 @@ class RunningStation {
   void MoveWindow(Place corner);
   void SizeWindow(int iWidth, int iHeight);
 
-  /// Waits for a visible window whose title holds that; false after five seconds.
+  /// Waits for a visible window whose title holds that; false when that takes too long.
   bool HasWindow(const QString& sTitle);
-  /// Waits for the last such window to go; false after five seconds.
+  /// Waits for the last such window to go; false when that takes too long.
   bool HasNoWindow(const QString& sTitle);
   /// "x y width height" of the window of that title.
   QString Geometry(const QString& sTitle);
@@ -147,10 +147,10 @@ class RunningStation {
   QStringList Geometries(const QString& sTitle);
   /// The colour of that point of the screen, "#RRGGBB".
   QString ColourAt(Place place);
-  /// Waits until that point has that colour; false after five seconds.
+  /// Waits until that point has that colour; false when that takes too long.
   bool ShowsColour(Place place, const QString& sColour);
 
-  /// Waits until the rig's state holds that line; false after five seconds.
+  /// Waits until the rig's state holds that line; false when that takes too long.
   bool RigShows(const QString& sLine);
   QString Rig(const QStringList& aArguments);
   /// Serves the rig again, a new one at its city station; false when it does not come.
@@ -197,7 +197,7 @@ class RunningStation {
 /// Lets real time go by.
 void Wait(int iMilliseconds);
 
-constexpr int iPatience = 5000;  ///< milliseconds that anything may take to show
+constexpr int iPatience = 10000;  ///< milliseconds that anything may take to show
 
 /// False when the condition does not come to hold within iPatience.
 template <class Condition>

@@ -51,6 +51,7 @@ TEST(StartAgain, AKilledStationKeepsNobodyOut) {
 
 TEST(StartAgain, OfTwentyCopiesStartedAtOnceOneRunsAndTheOthersSaySo) {
   RunningStation station;
+  ASSERT_TRUE(station.ServeRig()) << "else the first one tells that there is none";
   std::array<QProcess, 20> aCopies;
   for (QProcess& copy : aCopies) ASSERT_TRUE(station.StartSecondCopy(copy));
   EXPECT_TRUE(HasWindows(station, 20));
