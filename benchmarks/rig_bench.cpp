@@ -50,11 +50,19 @@ int MeasureExchange(const Library& library) {
 int Drive(const Library& library, int iSeconds) {
   const auto end = Clock::now() + std::chrono::seconds(iSeconds);
   auto next = Clock::now();
+  Clock::duration longest{};
+  int iLost = 0;
   for (int i = 0; next < end; ++i, next += tick) {
     std::this_thread::sleep_until(next);
-    if (library.pReadAdapter(lAddress) == 0) return 1;
+    const auto start = Clock::now();
+    const bool bAnswered = library.pReadAdapter(lAddress) != 0;
+    longest = std::max(longest, Clock::now() - start);
+    if (!bAnswered) ++iLost;
+    if (!bAnswered) library.pIsAdapterConnected(lAddress);
     if (i % iTicksForAByte == 0) library.pWriteAdapter(lAddress, i % 32);
   }
+  std::printf("drive: longest exchange %.2f ms (limit: 50), link lost %d times\n",
+              std::chrono::duration<double, std::milli>(longest).count(), iLost);
   return 0;
 }
 
