@@ -24,11 +24,17 @@ const ErrorRow ErrorRows[] = {
     {"IF A=1\r\nBEEP\r\n", 502, {8, 4}},
     {"IF A=1", 502, {0, 6}},
     {"IF A=1\r\n", 502, {0, 6}},
+    {"IF A=1\r\nEND IF", 502, {8, 6}},
+    {"IF A=1\r\n\tENDIF", 502, {8, 6}},
+    {"ENDIFFY", 502, {0, 7}},
     {"LABEL", 504, {0, 5}},
     {"BEEP\r\n  label  \r\nBEEP", 504, {6, 9}},
     {"PRINT \"ab", 507, {0, 9}},
     {"PRINT ab\"", 507, {0, 9}},
     {"PRINT\"", 507, {0, 6}},
+    {"PRINTER \"", 507, {0, 9}},
+    {"PRINT \"a : b", 507, {0, 12}},
+    {"PRINT \"a\"b\"", 507, {0, 11}},
     {"BEEP\r\nPRINT \"a\" : it\"s\r\nLABEL", 507, {6, 16}},
     {"LABEL\r\nENDIF\r\nPRINT \"", 504, {0, 5}},
 };
@@ -87,7 +93,7 @@ TEST_F(CompileErrors, AcceptThirtyLabels) {
 }
 
 TEST_F(CompileErrors, RefuseAThirtyFirstLabel) {
-  EXPECT_FALSE(Compile(Labels(31) + "\r\nBEEP"));
+  EXPECT_FALSE(Compile(Labels(31) + "\r\nENDIF"));
   EXPECT_EQ(station.BoxTexts(), QStringList(English(521)));
   EXPECT_EQ(txtProgram.SelText(), "LABEL L31");
   EXPECT_TRUE(bNeedCompile);

@@ -32,6 +32,7 @@ const TableRow TableRows[] = {
     {"IFFY\r\nENDIFS", {{0, 4, "IFFY", 1}, {6, 6, "ENDIFS", 0}}},
     {": IF A=1\r\nBEEP", {{0, 8, "", 0}, {10, 4, "BEEP", 0}}},
     {"GOTO X", {{0, 6, "GOTOX", 0}}},
+    {"  GOTO\"a b\"", {{0, 11, "GOTO\"AB\"", 0}}},
     {"DO ÿ é", {{0, 6, "DOŸÉ", 0}}},
 };
 
@@ -71,6 +72,8 @@ const LabelRow LabelRows[] = {
     {"LABEL X\r\nBEEP\r\nLABEL X", {{"X", 0}, {"X", 2}}},
     {"LABEL X : note", {{"X", 0}}},
     {"\tLABEL X", {}},
+    {"L ABEL X", {}},
+    {"LABEL\t", {{"", 0}}},
 };
 
 TEST_F(CompilePass, CollectsTheLabelsFromSlotOneOn) {

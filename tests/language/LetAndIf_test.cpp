@@ -168,13 +168,15 @@ class IfStatement : public LanguageTest {
   }
 };
 
-const char* const TrueConditions[] = {"A=5",  "A<>4", "A<6", "A>4",   "A<=5", "A=>5",
-                                      "A==9", "A><9", "A=B", "A=2+3", "A>-1", "A<1000*1000"};
+const char* const TrueConditions[] = {"A=5",  "A<>4",        "A<6",   "A>4",    "A<=5",
+                                      "A=>5", "A==9",        "A><9",  "A=B",    "A=2+3",
+                                      "A>-1", "A<1000*1000", "A<'A'", "A<2+1*2"};
 
 TEST_F(IfStatement, EntersTheBodyWhenTheConditionHolds) {
   Variable('B') = 5;
   for (const char* sText : TrueConditions) {
     bInIfBlock = false;
+    bIfCondition = false;
     EXPECT_TRUE(ExecuteIf(sText)) << sText;
     EXPECT_TRUE(bInIfBlock) << sText;
     EXPECT_TRUE(bIfCondition) << sText;
@@ -182,7 +184,8 @@ TEST_F(IfStatement, EntersTheBodyWhenTheConditionHolds) {
   }
 }
 
-const char* const FalseConditions[] = {"A=4", "A<>5", "A<5", "A>5", "A<=4", "A>=6", "A=1000*1000"};
+const char* const FalseConditions[] = {"A=4",  "A<>5", "A<5",         "A>5",
+                                       "A<=4", "A>=6", "A=1000*1000", "A=4+"};
 
 TEST_F(IfStatement, JumpsToTheEndifWhenItDoesNot) {
   for (const char* sText : FalseConditions) {
@@ -205,7 +208,8 @@ const IfRefusalRow IfRefusals[] = {
     {"A+1=5", English(503)},  {"AB=5", English(503)},    {"PB0=ON", English(503)},
     {"PA8=ON", English(503)}, {"A=1=2", English(518)},   {"A=(", English(519) + "('"},
     {"A=1/0", English(514)},  {"A=W*W*W", English(515)}, {"A=40000*40000", English(519) + "4'"},
-    {"A='AB'", English(517)},
+    {"A='AB'", English(517)}, {"A=ON", English(518)},    {"[=0", English(503)},
+    {"A!=1", English(503)},   {"'A'=5", English(503)},
 };
 
 TEST_F(IfStatement, TellsOnceOfWhatItCannotTest) {
