@@ -1,7 +1,6 @@
 // Trace: one line a press.
 
 #include "language/LanguageTest.h"
-#include "track/OutputImage.h"
 
 namespace glidetrak {
 namespace {
@@ -12,55 +11,6 @@ class Trace : public LanguageTest {
     for (int i = 0; i < iTimes; ++i) station.Click("cmdSingleStep");
   }
 };
-
-TEST_F(Trace, ExecutesOneLineAPress) {
-  station.SetProgram("LET A=1\r\nLET B=2\r\nLET C=3");
-  for (qint32 lLine = 1; lLine <= 3; ++lLine) {
-    Press();
-    EXPECT_EQ(lCurrentLine, lLine);
-    EXPECT_EQ(Variable('A') + Variable('B') + Variable('C'), lLine * (lLine + 1) / 2);
-  }
-}
-
-TEST_F(Trace, PassesOverEmptyLines) {
-  station.SetProgram("BEEP\r\n\r\n: note\r\n   \r\nBEEP");
-  Press();
-  EXPECT_EQ(lCurrentLine, 1);
-  Press();
-  EXPECT_EQ(lCurrentLine, 5);
-  EXPECT_EQ(station.platform.iBeeps, 2);
-}
-
-TEST_F(Trace, TakesNoTimeAndWritesNothing) {
-  SetPower(9);
-  station.Forget();
-  const qint64 lStart = station.platform.lNow;
-  station.SetProgram("BEEP");
-  Press(2);
-  EXPECT_EQ(station.platform.lNow, lStart);
-  EXPECT_TRUE(station.WrittenBytes().empty());
-  EXPECT_EQ(iPower, 9);
-}
-
-TEST_F(Trace, TakesTheTimeOfAWait) {
-  const qint64 lStart = station.platform.lNow;
-  station.SetProgram("WAIT 1000");
-  Press();
-  EXPECT_EQ(station.platform.lNow - lStart, 1000);
-}
-
-TEST_F(Trace, IsNotRunningBetweenTwoPresses) {
-  station.SetProgram("LET A=1\r\nLET B=1");
-  Press();
-  EXPECT_FALSE(bProgramRunning);
-}
-
-TEST_F(Trace, ExecutesOneLineWithTheMotorOnToo) {
-  SetPower(9);
-  station.SetProgram("BEEP\r\nBEEP\r\nBEEP");
-  Press();
-  EXPECT_EQ(station.platform.iBeeps, 1);
-}
 
 TEST_F(Trace, LocksTheMenusAloneAndShowsTheHourglassOverTheScreen) {
   bool bAsTold = false;
@@ -76,12 +26,6 @@ TEST_F(Trace, LocksTheMenusAloneAndShowsTheHourglassOverTheScreen) {
   EXPECT_EQ(screen.MousePointer, ptrDefault);
 }
 
-TEST_F(Trace, KeepsVariablesBetweenPressesOfUnchangedText) {
-  station.SetProgram("LET A=A+1\r\nLET A=A+1");
-  Press(2);
-  EXPECT_EQ(Variable('A'), 2);
-}
-
 TEST_F(Trace, ClearsVariablesWhenTheTextHasChanged) {
   station.SetProgram("LET A=A+1\r\nLET A=A+1\r\nBEEP");
   Press();
@@ -90,37 +34,10 @@ TEST_F(Trace, ClearsVariablesWhenTheTextHasChanged) {
   EXPECT_EQ(Variable('A'), 1);
 }
 
-TEST_F(Trace, CarriesTheIfFlagsFromPressToPress) {
-  station.SetProgram("IF A=0\r\nBREAK\r\nENDIF\r\nIF A=0\r\nENDIF");
-  Press(2);
-  EXPECT_TRUE(bInIfBlock);
-  lCurrentLine = 3;
-  Press();
-  EXPECT_EQ(station.BoxTexts(), QStringList(English(502)));
-}
-
-TEST_F(Trace, GoesOnBehindABreakAtTheNextPress) {
+TEST_F(Trace, GivesTheEditorBackBehindABreak) {
   station.SetProgram("BREAK\r\nBEEP");
   Press();
-  EXPECT_EQ(lCurrentLine, 1);
   EXPECT_TRUE(txtProgram.Enabled);
-  Press();
-  EXPECT_EQ(station.platform.iBeeps, 1);
-}
-
-TEST_F(Trace, FollowsJumps) {
-  station.SetProgram("GOTO X\r\nBEEP\r\nLABEL X\r\nLET A=1");
-  Press(2);
-  EXPECT_EQ(Variable('A'), 1);
-  EXPECT_EQ(station.platform.iBeeps, 0);
-}
-
-TEST_F(Trace, TellsOfAMissingLabelOnlyAtItsLine) {
-  station.SetProgram("BEEP\r\nGOTO X");
-  Press();
-  EXPECT_TRUE(station.BoxTexts().empty());
-  Press();
-  EXPECT_EQ(station.BoxTexts(), QStringList("The Label 'x' does not exist"));
 }
 
 TEST_F(Trace, LeavesThePositionAfterACompileError) {
@@ -133,13 +50,6 @@ TEST_F(Trace, LeavesThePositionAfterACompileError) {
   EXPECT_FALSE(bProgramRunning);
   EXPECT_TRUE(MNUMAIN.Enabled);
   EXPECT_EQ(screen.MousePointer, ptrDefault);
-}
-
-TEST_F(Trace, HidesTheMessageAtTheEndOfEachStep) {
-  station.SetProgram("PRINT \"A\"\r\nBEEP");
-  Press();
-  EXPECT_FALSE(pnlMessage.Visible);
-  EXPECT_EQ(lblMessage.Caption, "A");
 }
 
 /// Presses at the end of a program of so many lines, each a LET that adds its weight to A.
@@ -175,13 +85,6 @@ TEST_F(Trace, GoesOnAtTheThirdLineBehindItsEnd) {
   }
 }
 
-TEST_F(Trace, TakesTheRoadOfTheEndBehindAFinishedRun) {
-  station.RunProgram("BEEP\r\nBEEP\r\nBEEP");
-  Press();
-  EXPECT_EQ(lCurrentLine, 2);
-  EXPECT_EQ(station.platform.iBeeps, 3);
-}
-
 TEST_F(Trace, LeavesTheScreenUnlockedAtItsEnd) {
   station.SetProgram("BEEP");
   Press(2);
@@ -189,12 +92,6 @@ TEST_F(Trace, LeavesTheScreenUnlockedAtItsEnd) {
   EXPECT_TRUE(cmdRunProgram.Enabled);
   EXPECT_TRUE(MNUMAIN.Enabled);
   EXPECT_FALSE(bProgramRunning);
-}
-
-TEST_F(Trace, StepsFromTheMenuToo) {
-  station.SetProgram("LET A=1");
-  station.Click("MNUSTEPFORWARD");
-  EXPECT_EQ(Variable('A'), 1);
 }
 
 class PrepareTraceTest : public LanguageTest {};
