@@ -87,13 +87,6 @@ TEST_F(PickerEvents, ClickOnTheTitleMakesTheButtonsPlain) {
   ExpectPictures(PictureId::DiagBtn, PictureId::DiagBtn);
 }
 
-TEST_F(PickerEvents, PictureIsAssignedOnlyWhenTheButtonWearsAnother) {
-  int iChanges = 0;
-  const auto notifier = btnSelectComSel.Picture.addNotifier([&] { ++iChanges; });
-  for (int i = 0; i < 3; ++i) btnSelectComSel.MouseMove(0, 1, 1);
-  EXPECT_EQ(iChanges, 1);
-}
-
 TEST_F(PickerEvents, ExampleSwallowsEveryKeyThatWouldChangeIt) {
   for (int iCode = 0; iCode < 256; ++iCode) {
     const bool bSwallowed = iCode == 8 || iCode == 9 || iCode == 27 || iCode > 31;

@@ -30,8 +30,10 @@ class LanguageTest : public ::testing::Test {
     return CompileProgram();
   }
 
-  /// Each box has the language's title and that icon, and leaves the editor to be seen.
+  /// Boxes have been shown, each with the language's title and that icon, and they leave the editor
+  /// to be seen.
   void ExpectProgramErrorBoxes(BoxIcon icon = BoxIcon::Exclamation) {
+    EXPECT_FALSE(station.platform.aBoxes.empty());
     for (const VirtualBox& box : station.platform.aBoxes) {
       EXPECT_EQ(box.sTitle, "Control Program Error");
       EXPECT_EQ(box.icon, icon);

@@ -4,8 +4,6 @@
 
 #include <gtest/gtest.h>
 
-#include <set>
-
 #include "shell/CaptionTexts.h"
 #include "station/Station.h"
 
@@ -77,12 +75,6 @@ TEST_F(Captions, LeaveTheDebugAndMessagePanelsInEnglish) {
   EXPECT_EQ(optDirection[1].Caption, "Forward");
   EXPECT_EQ(lblInput[3].Caption, "PA3");
   EXPECT_EQ(lblOutput[3].Caption, "PB3");
-}
-
-TEST_F(Captions, AreEachSetOnce) {
-  std::set<const void*> properties;
-  for (const CaptionText& row : CaptionTexts) properties.insert(row.pProperty);
-  EXPECT_EQ(properties.size(), std::size(CaptionTexts));
 }
 
 }  // namespace

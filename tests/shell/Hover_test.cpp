@@ -63,14 +63,6 @@ TEST_F(HoverTest, AnyOtherTokenPutsAllAtRest) {
   }
 }
 
-TEST_F(HoverTest, MoveOverAHotButtonRepaintsNothing) {
-  SetHoverState("RUN");
-  int iChanges = 0;
-  const auto notifier = cmdRunProgram.Picture.addNotifier([&] { ++iChanges; });
-  SetHoverState("RUN");
-  EXPECT_EQ(iChanges, 0);
-}
-
 struct CallerRow {
   const Control* pControl;
   const char* sToken;

@@ -29,39 +29,6 @@ class Lever : public testing::Test {
   }
 };
 
-TEST_F(Lever, StandsAtTheBottomBehindStartUp) {
-  station.Start();
-  EXPECT_EQ(imgLever.Top.value(), 4760);
-  EXPECT_EQ(iLeverLevel, 0);
-  EXPECT_EQ(imgLever.MousePointer.value(), ptrCustom);
-}
-
-TEST_F(Lever, HasItsPlaceForEachLevel) {
-  for (qint16 i = 0; i <= 15; ++i) {
-    SetPowerLever(i);
-    EXPECT_FLOAT_EQ(imgLever.Top, static_cast<float>(2230 + (15 - i) * 168.66666666666666));
-    EXPECT_EQ(iLeverLevel, i);
-  }
-}
-
-TEST_F(Lever, ClampsTheLevelThatItIsGiven) {
-  const std::pair<qint16, qint16> aRows[] = {{16, 15}, {32767, 15}, {-1, 0}, {-32768, 0}, {8, 8}};
-  for (const auto& [iGiven, iExpected] : aRows) {
-    qint16 iLevel = iGiven;
-    SetPowerLever(iLevel);
-    EXPECT_EQ(iLevel, iExpected);
-    EXPECT_EQ(iLeverLevel, iExpected);
-  }
-}
-
-TEST_F(Lever, IsNotSnappedByItsOwnLevel) {
-  station.Start();
-  DragTo(2300);
-  qint16 iLevel = 15;
-  SetPowerLever(iLevel);
-  EXPECT_EQ(imgLever.Top.value(), 2300);
-}
-
 struct PlaceRow {
   float fWanted;
   float fTop;

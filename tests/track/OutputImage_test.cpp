@@ -174,32 +174,5 @@ TEST_F(OutputImage, TellsPowerAndDirectionNothingOfASingleBit) {
   EXPECT_FALSE(bMotorOn);
 }
 
-TEST_F(OutputImage, ShowsThePowerInDebugModeOnly) {
-  SetPower(12);
-  EXPECT_EQ(lblPowerLevel.Caption, "0");
-  bDebugMode = true;
-  SetPower(11);
-  EXPECT_EQ(lblPowerLevel.Caption, "11");
-  SetPower(20);
-  EXPECT_EQ(lblPowerLevel.Caption, "0");
-}
-
-TEST_F(OutputImage, ChecksTheDirectionOptionInDebugModeOnly) {
-  SetDirection(0);
-  EXPECT_TRUE(optDirection[1].Value);
-  bDebugMode = true;
-  SetDirection(1);
-  SetDirection(0);
-  EXPECT_TRUE(optDirection[0].Value);
-  EXPECT_FALSE(optDirection[1].Value);
-}
-
-TEST_F(OutputImage, FollowsTheLever) {
-  iLeverLevel = 6;
-  ApplyLeverPower();
-  EXPECT_EQ(iPower, 6);
-  EXPECT_EQ(lOutputImage, 22);
-}
-
 }  // namespace
 }  // namespace glidetrak
