@@ -41,6 +41,22 @@ TEST_F(FileMenuTest, NewTurnsSaveOffUntilTheFirstChange) {
   EXPECT_TRUE(MNUSAVEPROGAS.Enabled);
 }
 
+TEST_F(FileMenuTest, MenuStatesFollowTheFlagAndTheText) {
+  const struct {
+    bool bEnable;
+    const char* sText;
+    bool bSave;
+  } rows[] = {{true, "", false}, {true, "A", true}, {false, "", false}, {false, "A", false}};
+  for (const auto& row : rows) {
+    txtProgram.SetText(row.sText);
+    SetFileMenuStates(row.bEnable);
+    EXPECT_EQ(MNUNEWPROG.Enabled, row.bEnable);
+    EXPECT_EQ(MNULOADPROG.Enabled, row.bEnable);
+    EXPECT_EQ(MNUSAVEPROG.Enabled, row.bSave);
+    EXPECT_EQ(MNUSAVEPROGAS.Enabled, row.bSave);
+  }
+}
+
 TEST_F(FileMenuTest, NewAsksOnlyAboutChanges) {
   NewProgram();
   ExpectNoBox();

@@ -20,6 +20,7 @@ class PathNames : public ::testing::Test {
     }
     station.platform.AddFile("C:\\FOLDER.GTP", "", attrFolder);
     station.platform.AddFile("C:\\LOCKED.GTP", "", attrReadOnly);
+    station.platform.AddFile("C:\\LOCKED FOLDER", "", attrFolder | attrReadOnly);
   }
 
   Station station;
@@ -64,7 +65,7 @@ TEST_F(PathNames, ExistForWhatIsThereAndIsNoFolder) {
   EXPECT_TRUE(FileExists("C:\\A.GTP"));
   EXPECT_TRUE(FileExists("c:\\a.gtp"));
   EXPECT_TRUE(FileExists("C:\\LOCKED.GTP"));
-  for (const char* sPath : {"C:\\FOLDER.GTP", "C:\\B.GTP", "", "C:\\"}) {
+  for (const char* sPath : {"C:\\FOLDER.GTP", "C:\\LOCKED FOLDER", "C:\\B.GTP", "", "C:\\"}) {
     EXPECT_FALSE(FileExists(sPath)) << sPath;
   }
 }
@@ -74,6 +75,7 @@ const PathRow FreeRows[] = {
     {"C:\\PLAN.TXT", "C:\\PLAN3.GTP"},
     {"C:\\FOLDER.TXT", "C:\\FOLDER.GTP"},
     {"C:\\A.GTP", "C:\\A1.GTP"},
+    {"C:\\PLAN", "C:\\.GTP"},
     {"C:\\long.html", "C:\\long..GTP"},
     {".TXT", ".GTP"},
     {"ABCD", ".GTP"},
@@ -101,6 +103,9 @@ const PathRow FolderRows[] = {
     {"C:\\A.GTP", "C:\\"},
     {"C:\\Work\\", "C:\\Work\\"},
     {"C:A.GTP", "C:\\"},
+    {"\\A.GTP", "\\"},
+    {"AB", "AB\\"},
+    {"A", "A\\"},
     {"A.GTP", "A.\\"},
     {"", "\\"},
     {QString("C:\\Work") + QChar(0) + "A.GTP" + QChar(0) + "B.GTP", "C:\\Work\\"},
