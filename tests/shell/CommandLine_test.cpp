@@ -166,7 +166,7 @@ TEST_F(FileArgument, IsDroppedWithWhatCannotBeCut) {
   }
 }
 
-TEST_F(StartUpTest, ParameterValueAndTheTextToCut) {
+TEST_F(StartUpTest, ParameterIsItsValueAndTheTextToCut) {
   const struct {
     const char* sText;
     const char* sValue;

@@ -28,7 +28,7 @@ const MapRow MapRows[] = {
     {"A\r\n\nB", {0, 1, 1, 2, 3, 4}},
 };
 
-TEST(EditorText, OffsetsToPositions) {
+TEST(EditorText, TurnsOffsetsIntoPositions) {
   for (const MapRow& row : MapRows) {
     TextBox box;
     box.SetText(row.sText);
@@ -41,7 +41,7 @@ TEST(EditorText, OffsetsToPositions) {
 
 /// Every position comes back as the first offset that maps to it: the end of a line, not its CR's
 /// other side.
-TEST(EditorText, PositionsToOffsets) {
+TEST(EditorText, TurnsPositionsIntoOffsets) {
   for (const MapRow& row : MapRows) {
     TextBox box;
     box.SetText(row.sText);

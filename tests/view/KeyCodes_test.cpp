@@ -68,7 +68,7 @@ const CodeRow CodeRows[] = {
     {Qt::Key_Ntilde, NoKeys, 0},
 };
 
-TEST(KeyCodes, OfKeys) {
+TEST(KeyCodes, AreThoseOfTheKeysWhateverTheyPrint) {
   for (const CodeRow& row : CodeRows) {
     const QKeyEvent event(QEvent::KeyPress, row.iKey, row.modifiers);
     EXPECT_EQ(VirtualKeyCode(event), row.iCode) << std::hex << row.iKey;
@@ -94,7 +94,7 @@ const PlaceRow PlaceRows[] = {
     {65, Qt::Key_Space, 32},
 };
 
-TEST(KeyCodes, OfPlacesOnTheKeyboard) {
+TEST(KeyCodes, FollowThePlaceOnTheKeyboardWhereItIsTold) {
   for (const PlaceRow& row : PlaceRows) {
     const QKeyEvent event(QEvent::KeyPress, row.iKey, NoKeys, row.lScanCode, 0, 0);
     EXPECT_EQ(VirtualKeyCode(event), row.iCode) << row.lScanCode << ' ' << std::hex << row.iKey;
@@ -123,7 +123,7 @@ const CharacterRow CharacterRows[] = {
     {Qt::Key_unknown, "ab", 0},
 };
 
-TEST(KeyCodes, OfCharacters) {
+TEST(KeyCodes, AreThoseOfTheCodePageForCharacters) {
   for (const CharacterRow& row : CharacterRows) {
     const QKeyEvent event(QEvent::KeyPress, row.iKey, NoKeys, row.sText);
     EXPECT_EQ(CharacterCode(event), row.iCode) << row.sText.toStdString();

@@ -13,7 +13,7 @@ Qt::CursorShape ShapeOf(const QWidget* pWidget) {
   return pWidget->cursor().shape();
 }
 
-TEST_F(Pointers, OfAControl) {
+TEST_F(Pointers, ShowTheControlsShape) {
   const QWidget* pLever = Widget("imgLever");
   imgLever.MousePointer = ptrNorthSouth;
   EXPECT_EQ(ShapeOf(pLever), Qt::SizeVerCursor);

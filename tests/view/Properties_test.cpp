@@ -22,7 +22,7 @@ TEST_F(Properties, PlaceAndSizeAreRoundedToPixels) {
   EXPECT_EQ(imgLever.Top, 2237.5F);
 }
 
-TEST_F(Properties, VisibleAndEnabled) {
+TEST_F(Properties, VisibleAndEnabledReachTheWidget) {
   Show();
   imgLever.Visible = false;
   EXPECT_FALSE(Widget("imgLever")->isVisible());
@@ -97,7 +97,7 @@ TEST_F(Properties, PanelsShowTheirBackground) {
   EXPECT_EQ(ColourAt(Widget("picHardware"), {280, 5}), QColor(192, 192, 192));
 }
 
-TEST_F(Properties, PicturesChange) {
+TEST_F(Properties, PicturesFollowTheirIds) {
   const QImage off = Widget("picTogTimer")->grab().toImage();
   picTogTimer.Picture = PictureId::ToggleOn;
   EXPECT_NE(Widget("picTogTimer")->grab().toImage(), off);

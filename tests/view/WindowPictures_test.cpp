@@ -29,12 +29,12 @@ class WindowPictures : public ViewTest {
   }
 };
 
-TEST_F(WindowPictures, OfTheDesign) {
+TEST_F(WindowPictures, ShowTheDesign) {
   Show();
   Keep(MainWindow(), "design");
 }
 
-TEST_F(WindowPictures, OfTheProgramBox) {
+TEST_F(WindowPictures, ShowTheProgramBox) {
   txtProgram.SetText("PRINT \"Hello World\"\r\nWAIT 3000\r\nPOWER 10\r\nbare\nand\rodd" +
                      QString(QChar(0)));
   txtProgram.Select(21, 9);
@@ -46,7 +46,7 @@ TEST_F(WindowPictures, OfTheProgramBox) {
   Keep(MainWindow(), "program-box");
 }
 
-TEST_F(WindowPictures, OfTheFloatingPanels) {
+TEST_F(WindowPictures, ShowTheFloatingPanels) {
   Show();
   pnlCommandSel.Visible = true;
   lstProgCommands.List = QStringList{"PRINT ", "BREAK", "LABEL "};
@@ -60,7 +60,7 @@ TEST_F(WindowPictures, OfTheFloatingPanels) {
   Keep(MainWindow(), "message");
 }
 
-TEST_F(WindowPictures, OfTheAboutBox) {
+TEST_F(WindowPictures, ShowTheAboutBox) {
   Show();
   lblProgName.Caption = "Glidetrak Control";
   frmAbout.Show();
