@@ -4,6 +4,7 @@
 #include <QTimer>
 #include <QWindow>
 
+#include "common/MiscCode.h"
 #include "view/ViewTest.h"
 
 namespace glidetrak {
@@ -80,6 +81,32 @@ TEST_F(ImageButtons, HearTheMouseMoveOverThem) {
   cmdManual.MouseMove = Note(aHeard);
   Move(Widget("cmdManual"), {3, 2});
   EXPECT_EQ(aHeard, std::vector<HeardMouse>({{0, 45, 30}}));
+}
+
+/// Counts the paintings of a widget.
+class PaintCount : public QObject {
+ public:
+  explicit PaintCount(QWidget* pWidget) { pWidget->installEventFilter(this); }
+  bool eventFilter(QObject* /*pWatched*/, QEvent* pEvent) override {
+    if (pEvent->type() == QEvent::Paint) ++iPaintings;
+    return false;
+  }
+
+  int iPaintings = 0;
+};
+
+TEST_F(ImageButtons, ArePaintedByTheFirstMoveOverThemAlone) {
+  Show();
+  cmdManual.MouseMove = [](int, float, float) {
+    SetPictureIfChanged(cmdManual, true, PictureId::DefBtn, PictureId::DiagBtnWF);
+  };
+  Settle();
+  PaintCount count(Widget("cmdManual"));
+  for (int i = 0; i < 5; ++i) {
+    Move(Widget("cmdManual"), {3 + i, 2});
+    Settle();
+    EXPECT_EQ(count.iPaintings, 1) << i;
+  }
 }
 
 /// Run stays in its click until the program ends, and Stop must work meanwhile.
