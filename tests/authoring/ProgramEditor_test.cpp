@@ -194,7 +194,7 @@ TEST_F(EditorTest, ResetReadsTheKeywords) {
 }
 
 TEST_F(PresetTest, ResetChangesTheDirectionWithoutSendingIt) {
-  station.Start(Link::Parallel);
+  station.Start(RigLink::Parallel);
   SetDirection(0);
   station.Forget();
   ResetProgramState();

@@ -5,8 +5,8 @@
 
 #include "common/SharedState.h"
 #include "hardware/AdapterLayer.h"
-#include "hardware/RigStation.h"
 #include "station/NamedRow.h"
+#include "station/RigStation.h"
 
 namespace glidetrak {
 namespace {

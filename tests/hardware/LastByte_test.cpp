@@ -5,7 +5,7 @@
 
 #include "common/SharedState.h"
 #include "hardware/AdapterLayer.h"
-#include "hardware/RigStation.h"
+#include "station/RigStation.h"
 #include "track/OutputImage.h"
 
 namespace glidetrak {

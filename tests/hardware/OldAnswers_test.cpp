@@ -4,8 +4,8 @@
 #include <gtest/gtest.h>
 
 #include "common/SharedState.h"
-#include "hardware/RigStation.h"
 #include "hardware/USBIntegration.h"
+#include "station/RigStation.h"
 #include "track/OutputImage.h"
 
 namespace glidetrak {

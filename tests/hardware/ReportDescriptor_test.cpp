@@ -7,8 +7,8 @@
 #include <random>
 #include <string>
 
-#include "hardware/RigStation.h"
 #include "station/NamedRow.h"
+#include "station/RigStation.h"
 
 namespace glidetrak {
 namespace {

@@ -5,9 +5,9 @@
 
 #include <string_view>
 
-#include "hardware/RigStation.h"
 #include "hardware/clsUSBHID.h"
 #include "station/NamedRow.h"
+#include "station/RigStation.h"
 
 namespace glidetrak {
 namespace {

@@ -5,8 +5,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "hardware/RigStation.h"
 #include "station/NamedRow.h"
+#include "station/RigStation.h"
 
 namespace glidetrak {
 namespace {

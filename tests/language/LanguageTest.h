@@ -19,7 +19,7 @@ namespace glidetrak {
 class LanguageTest : public ::testing::Test {
  protected:
   void SetUp() override {
-    station.Start(Link::Parallel);
+    station.Start(RigLink::Parallel);
     station.EnterProgramMode();
   }
 

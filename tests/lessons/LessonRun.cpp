@@ -44,7 +44,7 @@ void LessonTest::Begin(int iLesson) {
   station.platform.OnPump = [this] { Pass(); };
   station.platform.rig.OnWrite = [this](qint32 lByte) { NoteByte(lByte); };
   station.platform.OnBeep = [this] { aBeeps.push_back(Now()); };
-  station.Start(Link::Parallel, GetParam().sSwitch);
+  station.Start(RigLink::Parallel, GetParam().sSwitch);
   ASSERT_TRUE(bLinkUp);
   station.EnterProgramMode();
   cmbExamples.ListIndex = iLesson - 1;

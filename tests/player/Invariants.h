@@ -10,7 +10,7 @@
 #include <memory>
 #include <vector>
 
-#include "hardware/RigStation.h"
+#include "station/RigStation.h"
 
 namespace glidetrak {
 

@@ -6,9 +6,9 @@
 #include <QStringList>
 #include <memory>
 
-#include "hardware/RigStation.h"
 #include "player/Dice.h"
 #include "player/Invariants.h"
+#include "station/RigStation.h"
 
 namespace glidetrak {
 

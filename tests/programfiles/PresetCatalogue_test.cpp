@@ -140,7 +140,7 @@ TEST_F(PresetTest, FilesAreReadBesideTheLanguagesConfiguration) {
   platform.AddFile("\\STATION\\Language\\0C0A\\TV_GLIDETRAK.INI",
                    "[MiscSettings]\r\nHW_EXAMPLES=1\r\n");
   platform.AddFile("\\STATION\\Language\\0C0A\\Examples\\EXAMPLE1.GTP", "UNO");
-  station.Start(Link::Down, "/LC=0C0A");
+  station.Start(RigLink::None, "/LC=0C0A");
   EXPECT_EQ(Presets.size(), 2U);
   EXPECT_EQ(txtProgram.Text(), "UNO");
 }

@@ -14,7 +14,7 @@ TEST_F(AboutTest, WithoutDebugModeThePanelCannotBeReached) {
 }
 
 TEST_F(AboutTest, DebugModeShowsTheEntryAndTheEntryThePanel) {
-  station.Start(Link::Down, "/debugmode");
+  station.Start(RigLink::None, "/debugmode");
   EXPECT_TRUE(MNUShowDebug.Visible);
   EXPECT_FALSE(pnlDebug.Visible);
   station.Click("MNUShowDebug");
@@ -23,7 +23,7 @@ TEST_F(AboutTest, DebugModeShowsTheEntryAndTheEntryThePanel) {
 }
 
 TEST_F(AboutTest, OutputByteOfSixLightsLampsOneAndTwo) {
-  station.Start(Link::Down, "/DEBUGMODE");
+  station.Start(RigLink::None, "/DEBUGMODE");
   lOutputImage = 6;
   station.Click("MNUShowDebug");
   const int aColours[] = {0, 1233395, 57088, 0, 0, 0, 0, 0};
@@ -31,7 +31,7 @@ TEST_F(AboutTest, OutputByteOfSixLightsLampsOneAndTwo) {
 }
 
 TEST_F(AboutTest, CloseCrossHidesThePanelAndRepaints) {
-  station.Start(Link::Down, "/DEBUGMODE");
+  station.Start(RigLink::None, "/DEBUGMODE");
   station.Click("MNUShowDebug");
   int iRepaints = 0;
   frmGlidetrak.Refresh = [&] { ++iRepaints; };
@@ -41,7 +41,7 @@ TEST_F(AboutTest, CloseCrossHidesThePanelAndRepaints) {
 }
 
 TEST_F(AboutTest, DoubleClickOnThePanelOnlyRepaints) {
-  station.Start(Link::Down, "/DEBUGMODE");
+  station.Start(RigLink::None, "/DEBUGMODE");
   station.Click("MNUShowDebug");
   int iRepaints = 0;
   frmGlidetrak.Refresh = [&] { ++iRepaints; };

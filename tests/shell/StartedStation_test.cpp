@@ -35,7 +35,7 @@ class StartUp : public ::testing::Test {
 TEST_F(StartUp, LoadsTheFileOfTheCommandLine) {
   AddPresets();
   station.platform.AddFile("C:\\WORK\\MY PLAN.GTP", "PRINT \"hi\"\r\n");
-  station.Start(Link::Down, "\"C:\\Work\\my plan.gtp\"");
+  station.Start(RigLink::None, "\"C:\\Work\\my plan.gtp\"");
   EXPECT_EQ(txtProgram.Text(), "PRINT \"hi\"\r\n");
   EXPECT_EQ(sCommandLineFile, "C:\\WORK\\MY PLAN.GTP");
   EXPECT_EQ(sProgramFile, "C:\\WORK\\MY PLAN.GTP");
@@ -51,7 +51,7 @@ TEST_F(StartUp, TakesTheFirstPresetWithoutSuchAFile) {
     other.platform.AddFile("\\STATION\\Examples\\EXAMPLE1.GTP", "BEEP : one");
     other.platform.AddFile("C:\\FOLDER.GTP", "", attrFolder);
     other.platform.AddFile("C:\\PLAN.TXT", "HALT");
-    other.Start(Link::Down, sCommandLine);
+    other.Start(RigLink::None, sCommandLine);
     EXPECT_EQ(txtProgram.Text(), "BEEP : one") << sCommandLine;
     EXPECT_EQ(sProgramFile, "") << sCommandLine;
     EXPECT_EQ(frmGlidetrak.Caption, "Glidetrak Control") << sCommandLine;
@@ -70,7 +70,7 @@ TEST_F(StartUp, StandsInManualModeWithTheEditorReadyBehindIt) {
 TEST_F(StartUp, CountsTheLoadedTextAsNoChange) {
   station.platform.AddFile("C:\\PLAN.GTP", "HALT");
   bProgramDirty = true;
-  station.Start(Link::Down, "C:\\PLAN.GTP");
+  station.Start(RigLink::None, "C:\\PLAN.GTP");
   EXPECT_FALSE(bProgramDirty);
   EXPECT_FALSE(bLoading);
   EXPECT_TRUE(bNeedCompile);
@@ -87,7 +87,7 @@ TEST_F(StartUp, TakesTheFirstEditForAChange) {
 }
 
 TEST_F(StartUp, SetsForwardAndPowerZero) {
-  station.Start(Link::Parallel);
+  station.Start(RigLink::Parallel);
   EXPECT_EQ(lOutputImage, 16);
   EXPECT_EQ(iDirection, 1);
   EXPECT_EQ(iPower, 0);
@@ -153,7 +153,7 @@ TEST(StartLanguage, PicksTextsAndFolderEachInItsWay) {
     Station station;
     station.platform.iUserLanguage = row.iSystem;
     station.platform.AddFile("\\STATION\\Language\\0C0A\\TV_GLIDETRAK.INI", "");
-    station.Start(Link::Down, row.sCommandLine);
+    station.Start(RigLink::None, row.sCommandLine);
     EXPECT_EQ(sLanguageIndex, row.sIndex);
     EXPECT_EQ(sLanguageFolder, row.sFolder);
     EXPECT_EQ(cmdSingleStep.Caption, row.sTrace);

@@ -54,7 +54,7 @@ TEST_F(AboutTest, StartupBoxStandsInTheMiddleOfTheRestoredWindow) {
 }
 
 TEST_F(AboutTest, LinkIsToldThreeSecondsAfterLoading) {
-  station.Start(Link::Usb);
+  station.Start(RigLink::Usb);
   RunTo(2999);
   EXPECT_EQ(lblplw8Instruct.Caption.value(), "Checking for Hardware. Please Wait ...");
   RunTo(3000);

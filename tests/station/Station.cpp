@@ -1,5 +1,7 @@
 #include "station/Station.h"
 
+#include <algorithm>
+
 #include "common/SharedState.h"
 #include "form/frmGlidetrak.h"
 #include "shell/Events.h"
@@ -17,9 +19,13 @@ QString English(int iId) {
   return LoadTextFor(iId, iEnglish);
 }
 
-void Station::Start(Link link, const QString& sCommandLine) {
-  if (link == Link::Parallel) platform.rig.AttachParallel();
-  if (link == Link::Usb) platform.rig.AttachUsb();
+void Station::Attach(RigLink link) {
+  if (link == RigLink::Parallel) rig.AttachParallel();
+  if (link == RigLink::Usb) rig.AttachUsb();
+}
+
+void Station::Start(RigLink link, const QString& sCommandLine) {
+  Attach(link);
   WireEvents();
   Form_Load(sCommandLine);
   Forget();
@@ -66,13 +72,21 @@ QStringList Station::BoxTexts() const {
 
 std::vector<qint32> Station::WrittenBytes() const {
   std::vector<qint32> aBytes;
-  for (const WrittenByte& written : platform.rig.aWritten) aBytes.push_back(written.lByte);
+  for (const WrittenByte& written : rig.aWritten) aBytes.push_back(written.lByte);
   return aBytes;
+}
+
+int Station::Calls(const QByteArray& operation) const {
+  return static_cast<int>(
+      std::count_if(rig.aCalls.begin(), rig.aCalls.end(),
+                    [&](const QByteArray& call) { return call.split(' ').front() == operation; }));
 }
 
 void Station::Forget() {
   platform.aBoxes.clear();
-  platform.rig.aWritten.clear();
+  rig.aWritten.clear();
+  rig.aCalls.clear();
+  rig.aReports.clear();
 }
 
 }  // namespace glidetrak

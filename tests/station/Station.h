@@ -7,13 +7,13 @@
 #include <vector>
 
 #include "station/Print.h"
+#include "station/WatchedPlatform.h"
 #include "strings/LanguageFunctions.h"
 #include "strings/ResourceStrings.h"
-#include "virtual/VirtualPlatform.h"
 
 namespace glidetrak {
 
-enum class Link { Down, Parallel, Usb };
+enum class RigLink { None, Parallel, Usb };
 
 /// Joins the lines with CR LF; the last one gets none.
 QString Lines(std::initializer_list<QString> aLines);
@@ -23,10 +23,13 @@ QString English(int iId);
 
 class Station {
  public:
-  VirtualPlatform platform;
+  WatchedPlatform platform;
+  VirtualRig& rig = platform.rig;
+
+  void Attach(RigLink link);
 
   /// The start-up with that adapter attached. What it wrote and showed by itself is forgotten.
-  void Start(Link link = Link::Down, const QString& sCommandLine = {});
+  void Start(RigLink link = RigLink::None, const QString& sCommandLine = {});
 
   /// Puts the station into Program mode, where the program's buttons can be reached.
   void EnterProgramMode();
@@ -51,7 +54,10 @@ class Station {
   QStringList BoxTexts() const;
   std::vector<qint32> WrittenBytes() const;
 
-  /// The boxes and the written bytes so far are forgotten.
+  /// How often the parallel library's operation of that name was called.
+  int Calls(const QByteArray& operation) const;
+
+  /// The boxes, the written bytes and the calls so far are forgotten.
   void Forget();
 };
 

@@ -7,7 +7,7 @@
 
 #include "common/SharedState.h"
 #include "form/frmGlidetrak.h"
-#include "hardware/RigStation.h"
+#include "station/RigStation.h"
 #include "track/OutputImage.h"
 #include "track/PropertyWatch.h"
 

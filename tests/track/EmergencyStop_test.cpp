@@ -5,7 +5,7 @@
 
 #include "common/SharedState.h"
 #include "form/frmGlidetrak.h"
-#include "hardware/RigStation.h"
+#include "station/RigStation.h"
 #include "track/OperatingPanel.h"
 #include "track/OutputImage.h"
 #include "track/PropertyWatch.h"

@@ -6,8 +6,8 @@
 
 #include "common/SharedState.h"
 #include "form/frmGlidetrak.h"
-#include "hardware/RigStation.h"
 #include "station/NamedRow.h"
+#include "station/RigStation.h"
 #include "track/InputDecoding.h"
 
 namespace glidetrak {

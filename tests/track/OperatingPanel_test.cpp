@@ -18,7 +18,7 @@ constexpr int lWhiteText = 0xFFFFFF;
 
 class OperatingPanel : public ::testing::Test {
  protected:
-  void SetUp() override { station.Start(Link::Parallel); }
+  void SetUp() override { station.Start(RigLink::Parallel); }
 
   Station station;
 };

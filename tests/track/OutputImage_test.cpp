@@ -13,7 +13,7 @@ namespace {
 
 class OutputImage : public ::testing::Test {
  protected:
-  void SetUp() override { station.Start(Link::Parallel); }
+  void SetUp() override { station.Start(RigLink::Parallel); }
 
   Station station;
 };

@@ -27,7 +27,7 @@ struct WriteRow {
 
 class OutputWrites : public ::testing::Test {
  protected:
-  void SetUp() override { station.Start(Link::Parallel); }
+  void SetUp() override { station.Start(RigLink::Parallel); }
 
   template <size_t N>
   void ExpectWrites(const WriteRow (&aRows)[N]) {
@@ -152,13 +152,13 @@ TEST_F(OutputWrites, SendTheByteThatStandsInTheImage) {
 }
 
 struct StartRow {
-  Link link;
+  RigLink link;
   Bytes aBytes;
 };
 
 /// The link check writes its 0 on the parallel link alone.
 const StartRow StartRows[] = {
-    {Link::Down, {}}, {Link::Parallel, {0, 16, 16}}, {Link::Usb, {16, 16}}};
+    {RigLink::None, {}}, {RigLink::Parallel, {0, 16, 16}}, {RigLink::Usb, {16, 16}}};
 
 TEST(StartWrites, AreForwardAndThenPowerZeroIfTheLinkIsUp) {
   for (const StartRow& row : StartRows) {

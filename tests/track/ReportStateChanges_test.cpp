@@ -7,8 +7,8 @@
 #include "common/SharedState.h"
 #include "form/frmGlidetrak.h"
 #include "hardware/AdapterLayer.h"
-#include "hardware/RigStation.h"
 #include "station/NamedRow.h"
+#include "station/RigStation.h"
 #include "track/InputDecoding.h"
 #include "track/OutputImage.h"
 

@@ -5,8 +5,8 @@
 
 #include "common/SharedState.h"
 #include "form/frmGlidetrak.h"
-#include "hardware/RigStation.h"
 #include "station/NamedRow.h"
+#include "station/RigStation.h"
 #include "track/InputDecoding.h"
 #include "track/OutputImage.h"
 

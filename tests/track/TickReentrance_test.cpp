@@ -6,7 +6,7 @@
 #include "common/SharedState.h"
 #include "form/frmGlidetrak.h"
 #include "hardware/AdapterLayer.h"
-#include "hardware/RigStation.h"
+#include "station/RigStation.h"
 #include "track/InputDecoding.h"
 #include "track/OutputImage.h"
 #include "track/SystemTick.h"
