@@ -19,6 +19,7 @@
 #include "form/ControlTable.h"
 #include "form/frmGlidetrak.h"
 #include "language/RunControl.h"
+#include "language/RunState.h"
 #include "platform/linux/LinuxMachine.h"
 #include "programs/ProgramFiles.h"
 #include "shell/Events.h"

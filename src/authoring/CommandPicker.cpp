@@ -8,6 +8,7 @@
 #include "common/UnicodeFunctions.h"
 #include "form/frmGlidetrak.h"
 #include "language/RunControl.h"
+#include "language/RunState.h"
 
 namespace glidetrak {
 

@@ -4,9 +4,9 @@
 #include "common/SharedState.h"
 #include "form/frmGlidetrak.h"
 #include "language/CompilePass.h"
-#include "language/Expressions.h"
 #include "language/Keywords.h"
 #include "language/RunControl.h"
+#include "language/RunState.h"
 #include "track/OutputImage.h"
 
 namespace glidetrak {

@@ -1,15 +1,8 @@
-// The LET and IF statements and the comparison.
-
 #include "language/Expressions.h"
-
-#include <algorithm>
 
 #include "common/CheckedArithmetic.h"
 #include "common/UnicodeFunctions.h"
-#include "language/CompilePass.h"
 #include "language/ProgramError.h"
-#include "language/RigStatements.h"
-#include "language/RunControl.h"
 #include "language/Variables.h"
 #include "strings/ResourceText.h"
 
@@ -17,82 +10,156 @@ namespace glidetrak {
 
 namespace {
 
-bool IsRelation(QChar character) {
-  return character == u'=' || character == u'<' || character == u'>';
+/// An operand was just read; any other sign is that of the operand awaited.
+constexpr qint16 iOperandRead = 0;
+
+struct Scan {
+  QString sText;
+  qsizetype i = 0;   ///< 0-based position of the character at hand
+  qint16 iSign = 1;  ///< sign of the operand awaited, or iOperandRead
+  QString sOperator{};
+};
+
+bool AtEnd(const Scan& scan) {
+  return scan.i >= scan.sText.size();
 }
 
-bool IsAssignment(const QString& sText) {
-  return sText.size() >= 2 && IsLetter(sText[0]) && sText[1] == u'=';
+/// The character at hand, empty behind the end.
+QString CharAt(const Scan& scan) {
+  return scan.sText.mid(scan.i, 1);
 }
 
-/// The first pass gives the result, the second the value that is stored.
-bool Assign(const QString& sText) {
-  const int iSlot = SlotOf(CharCode(sText[0]));
-  const QString sExpression = sText.mid(2);
-  const bool bResult = EvaluateExpression(sExpression);
-  if (EvaluateExpression(sExpression)) StoreVariable(iSlot, CheckedInt16(lExprResult));
-  return bResult;
+bool FailOnCharacter(const QString& sCharacter) {
+  return FailWith(LoadText(idUnrecognizedCharacter) + sCharacter + u'\'');
 }
 
-bool RefuseLet(bool bHasKeyword) {
-  if (!bHasKeyword) return FailWith(idUnrecognized);
-  return FailWith(LoadText(idInvalidLet) + "\r\n" + LoadText(idLetExample));
+/// Where an operand is awaited the position does not move, so the same + is read again for ever
+/// and the program hangs. Deliberate; the volatile write keeps an endless loop well-defined.
+void TakePlus(Scan& scan) {
+  static volatile bool bStandstill;
+  bStandstill = scan.iSign != iOperandRead;
+  if (bStandstill) return;
+  scan.iSign = 1;
+  ++scan.i;
 }
 
-bool CarryOutLet(const QString& sText, bool bHasKeyword) {
-  if (TrimBlanks(sText).isEmpty()) return FailWith(idInvalidLet);
-  if (IsAssignment(sText)) return Assign(sText);
-  if (IsPortBitLet(sText)) return ExecutePortBitLet(sText);
-  return RefuseLet(bHasKeyword);
+void TakeMinus(Scan& scan) {
+  scan.iSign = scan.iSign == iOperandRead ? qint16{-1} : static_cast<qint16>(-scan.iSign);
+  ++scan.i;
 }
 
-bool IsComparison(const QString& sText) {
-  return sText.size() >= 3 && IsLetter(sText[0]) && IsRelation(sText[1]);
+void TakeOperator(Scan& scan, const QString& sOperator) {
+  if (scan.iSign == iOperandRead) scan.iSign = 1;
+  scan.sOperator = sOperator;
+  ++scan.i;
 }
 
-bool ExecuteComparison(const QString& sText) {
-  const auto end = std::find_if_not(sText.begin() + 1, sText.end(), IsRelation);
-  if (end == sText.end()) return FailWith(idInvalidIf);
-  const qsizetype iEnd = end - sText.begin();
-  if (!EvaluateExpression(sText.mid(iEnd))) return false;
-  CompareVariable(sText.mid(1, iEnd - 1), SlotOf(CharCode(sText[0])), bIfCondition);
-  if (!bIfCondition) SkipIfBody();
+/// Adds the character's code straight to the accumulator: a literal ignores the operator and
+/// leaves the sign as it was, so that behind an operand it adds nothing and ahead of a + it hangs.
+bool TakeLiteral(Scan& scan) {
+  ++scan.i;
+  const QString sCharacter = UpperCase(CharAt(scan));
+  if (sCharacter.isEmpty()) throw RuntimeError(Fault::BadBound);
+  const qint16 iValue = CheckedInt16(qint64{CharCode(sCharacter[0])} * scan.iSign);
+  lExprResult = CheckedInt32(qint64{lExprResult} + iValue);
+  ++scan.i;
+  if (CharAt(scan) != u"'") return FailWith(idInvalidLiteral);
+  ++scan.i;
+  return true;
+}
+
+qsizetype DigitsEnd(const Scan& scan) {
+  qsizetype iEnd = scan.i;
+  while (iEnd < scan.sText.size() && IsDigit(scan.sText[iEnd])) ++iEnd;
+  return iEnd;
+}
+
+bool TakeNumber(Scan& scan) {
+  const qsizetype iEnd = DigitsEnd(scan);
+  const double fValue = NumericPrefix(scan.sText.mid(scan.i, iEnd - scan.i));
+  if (!ApplyOperand(RoundToInt16(fValue * scan.iSign), scan.sOperator)) return false;
+  scan.iSign = iOperandRead;
+  scan.i = iEnd;
+  return true;
+}
+
+bool TakeVariable(Scan& scan) {
+  const int iSlot = SlotOf(CharCode(scan.sText[scan.i]));
+  const qint16 iValue = iVariables.at(static_cast<size_t>(iSlot));
+  if (!ApplyOperand(CheckedInt16(qint64{iValue} * scan.iSign), scan.sOperator)) return false;
+  scan.iSign = iOperandRead;
+  ++scan.i;
+  return true;
+}
+
+bool TakeOperand(Scan& scan, const QString& sCharacter) {
+  if (scan.iSign == iOperandRead) return FailWith(idOperatorExpected);
+  if (!sCharacter.isEmpty() && IsDigit(sCharacter[0])) return TakeNumber(scan);
+  if (!sCharacter.isEmpty() && IsLetter(sCharacter[0])) return TakeVariable(scan);
+  return FailOnCharacter(sCharacter);
+}
+
+/// One step of the scan; the first row that fits.
+bool Step(Scan& scan) {
+  const QString sCharacter = CharAt(scan);
+  if (sCharacter == u"+") {
+    TakePlus(scan);
+  } else if (sCharacter == u"-") {
+    TakeMinus(scan);
+  } else if (sCharacter == u"*" || sCharacter == u"/") {
+    TakeOperator(scan, sCharacter);
+  } else if (sCharacter == u"'") {
+    return TakeLiteral(scan);
+  } else {
+    return TakeOperand(scan, sCharacter);
+  }
+  return true;
+}
+
+/// The body runs at least once, even on an empty text.
+bool ScanToEnd(Scan& scan) {
+  do {
+    if (!Step(scan)) return false;
+  } while (!AtEnd(scan));
   return true;
 }
 
 }  // namespace
 
-void CompareVariable(const QString& sOperator, int iSlot, bool& bCondition) {
-  const qint32 lValue = iVariables.at(static_cast<size_t>(iSlot));
-  if (sOperator == u"=") bCondition = lValue == lExprResult;
-  if (sOperator == u"<>") bCondition = lValue != lExprResult;
-  if (sOperator == u"<") bCondition = lValue < lExprResult;
-  if (sOperator == u">") bCondition = lValue > lExprResult;
-  if (sOperator == u"<=" || sOperator == u"=<") bCondition = lValue <= lExprResult;
-  if (sOperator == u">=" || sOperator == u"=>") bCondition = lValue >= lExprResult;
-}
-
-bool ExecuteLet(const QString& sText, bool bHasKeyword) {
+bool EvaluateExpression(const QString& sText) {
+  lExprResult = 0;
+  Scan scan{.sText = sText};
   try {
-    return CarryOutLet(sText, bHasKeyword);
+    return ScanToEnd(scan);
   } catch (const RuntimeError&) {
-    return FailWith(idUnrecognized);
+    return FailOnCharacter(CharAt(scan));
   }
 }
 
-void SkipIfBody() {
-  bInIfBlock = false;
-  lCurrentLine = LineTable.at(static_cast<size_t>(lCurrentLine)).lTargetLine;
+TextId OperandErrorMessage(const RuntimeError& error) {
+  switch (error.fault()) {
+    case Fault::DivisionByZero:
+      return idDivisionByZero;
+    case Fault::Overflow:
+      return idResultTooLarge;
+    default:
+      return idEquationError;
+  }
 }
 
-bool ExecuteIf(const QString& sText) {
-  if (bInIfBlock) return FailWith(idIfWithoutEndIf);
-  bInIfBlock = true;
-  bIfCondition = true;
-  if (IsComparison(sText)) return ExecuteComparison(sText);
-  if (IsPortBitIf(sText)) return ExecutePortBitIf(sText);
-  const QString sSensor = FindSensor(sText);
-  return sSensor.isEmpty() ? FailWith(idInvalidIf) : TestSensorCondition(sText, sSensor);
+bool ApplyOperand(qint16 iValue, const QString& sOperator) {
+  try {
+    if (sOperator == u"*") {
+      lExprResult = CheckedInt32(qint64{lExprResult} * iValue);
+    } else if (sOperator == u"/") {
+      lExprResult = CheckedDivide32(lExprResult, iValue);
+    } else {
+      lExprResult = CheckedInt32(qint64{lExprResult} + iValue);
+    }
+    return true;
+  } catch (const RuntimeError& error) {
+    return FailWith(OperandErrorMessage(error));
+  }
 }
 
 }  // namespace glidetrak

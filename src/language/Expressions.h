@@ -27,25 +27,4 @@ bool ApplyOperand(qint16 iValue, const QString& sOperator);
 /// bits (its wording speaks of 16), 516 for anything else.
 TextId OperandErrorMessage(const RuntimeError& error);
 
-/// Compares variable iSlot (1 to 30), sign-extended, with lExprResult. An unknown operator leaves
-/// bCondition alone.
-void CompareVariable(const QString& sOperator, int iSlot, bool& bCondition);
-
-/// A LET without its keyword, blanks gone; bHasKeyword tells whether it came from a LET line. False
-/// stops the program, after a message. The expression is evaluated twice, so that each of its
-/// messages is shown twice; deliberate.
-bool ExecuteLet(const QString& sText, bool bHasKeyword);
-
-/// An IF line behind its keyword. False stops the program, after a message.
-bool ExecuteIf(const QString& sText);
-
-/// True inside the body of an IF that held. Reset by Run only: a Trace carries it over.
-inline bool bInIfBlock = false;
-
-/// Result of the last IF test; true otherwise.
-inline bool bIfCondition = true;
-
-/// The IF did not hold: leaves the block and jumps to the ENDIF, which the caller steps over.
-void SkipIfBody();
-
 }  // namespace glidetrak

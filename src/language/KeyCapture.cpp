@@ -1,8 +1,9 @@
-// The keys of a running program.
+#include "language/KeyCapture.h"
 
 #include "common/SharedState.h"
 #include "common/UnicodeFunctions.h"
 #include "language/RunControl.h"
+#include "language/RunState.h"
 
 namespace glidetrak {
 

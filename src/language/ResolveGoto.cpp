@@ -1,11 +1,11 @@
-// ResolveGotoLine: the GOTO of one line against the labels.
+#include "language/ResolveGoto.h"
 
 #include "common/SharedState.h"
 #include "common/UnicodeFunctions.h"
 #include "form/frmGlidetrak.h"
 #include "language/CompilePass.h"
 #include "language/Keywords.h"
-#include "language/RunControl.h"
+#include "language/RunState.h"
 #include "platform/Platform.h"
 #include "strings/ResourceText.h"
 #include "strings/ShowMessage.h"

@@ -7,8 +7,10 @@
 #include "common/SkipOnError.h"
 #include "form/frmGlidetrak.h"
 #include "language/CompilePass.h"
-#include "language/Expressions.h"
 #include "language/ProgramError.h"
+#include "language/ResolveGoto.h"
+#include "language/RunState.h"
+#include "language/Statements.h"
 #include "language/Variables.h"
 #include "track/AbortProgram.h"
 #include "track/OutputImage.h"
@@ -34,6 +36,7 @@ void GrabFocus() {
 }
 
 void ResolveAll() {
+  Q_ASSERT(bProgramRunning && bRunUnderWay);
   for (lCurrentLine = 0; lCurrentLine < lLineCount; ++lCurrentLine) {
     ResolveGotoLine(lCurrentLine);
     if (!bProgramRunning) return;
@@ -41,6 +44,7 @@ void ResolveAll() {
 }
 
 void RunLoop() {
+  Q_ASSERT(bProgramRunning && bRunUnderWay);
   const qint32 lLastLine = lLineCount - 1;
   lCurrentLine = 0;
   while (lCurrentLine <= lLastLine) {
@@ -71,6 +75,7 @@ void RunLocked() {
   if (bProgramRunning) RunLoop();
   DelayMilliseconds(Pump::Yes, lEndPause, Tick::Suspended);
   AbortProgram();
+  Q_ASSERT(!bProgramRunning && !bMotorOn);
   FinishRun();
 }
 

@@ -1,90 +1,92 @@
 #pragma once
 
-// Run control: Run, Stop and Trace, the locking of the screen, and the keys of a running program.
+// Run control: Run, Stop and Trace, and the locking of the screen. The keys of a running program
+// are KeyCapture's, the variables of a run RunState's.
 //
 // A program does not run from a timer. RunProgram is one call out of the click of Run, which stays
 // in its loop until the program ends: execute a line, pump events for 25 ms, add 1 to the index.
 // Everything else, the tick and Stop included, runs inside those pumps, and bProgramRunning is the
 // only signal between the two.
 //
-//   state         bProgramRunning   held by
-//   Idle          false             nothing
-//   Compiling     false, Trace true RunProgram, StepProgram
-//   Resolving     true              RunProgram: each GOTO against the labels; pumps nothing
-//   Running       true              RunProgram's loop
-//   Winding down  false             the statement at hand, then the end of RunProgram
-//   Trace step    true              StepProgram
+// Run locks the editor, Run, the pre-sets with their button and the three menu heads, and shows
+// the hourglass over the program box; Trace locks the menu heads alone, with the hourglass
+// everywhere. bRunUnderWay is true in every state but Idle.
 //
-//   Idle -> Compiling           [RunProgram, StepProgram]
-//   Compiling -> Idle           a compile error [FinishRun, FinishStep]
-//   Compiling -> Resolving      [RunProgram]        Compiling -> Trace step  [StepProgram]
-//   Resolving -> Running        all GOTOs resolved  Resolving -> Winding down  a missing label
-//   Running -> Winding down     the last line, BREAK, an error [ExecuteProgramLine],
-//                               Stop or Space [StopProgram], the emergency stop [AbortProgram]
-//   Winding down -> Idle        [FinishRun]; a WAIT goes on to its full time first
-//   Trace step -> Idle          [FinishStep]
-
-#include <QString>
-
-#include "language/Statements.h"
+//   state         bProgramRunning  what holds
+//   Idle          false            nothing is locked; a Run has left power 0, a Trace step the
+//                                  power that the program set. PrepareTrace compiles here
+//   Compiling     Run: false       locked as told; the tables are being made. No pump but that of
+//                 Trace: true      an error's box
+//   Resolving     true             Run's lock; variables 0, bInIfBlock off, nothing executed yet.
+//                                  No pump but that of the box of a missing label
+//   Running       true             Run's lock; keys are the program's. Pumps in the 25 ms between
+//                                  lines, in WAIT, in GET and under a statement's box
+//   Winding down  false            Run's lock stays; the statement at hand goes on (a WAIT to its
+//                                  full time), then the end: 100 ms of pumping with the tick
+//                                  suspended, power 0. After a stop the power is 0 from the start
+//   Trace step    true             Trace's lock; variables, IF flags and position are those of the
+//                                  step before. Pumps in WAIT, in GET and under a box
+//
+//   Idle -> Compiling            [RunProgram, StepProgram]
+//   Compiling -> Idle            a compile error [FinishRun, FinishStep]
+//   Compiling -> Resolving       [RunProgram]        Compiling -> Trace step  [StepProgram]
+//   Resolving -> Running         all GOTOs resolved  Resolving -> Winding down  a missing label
+//   Running -> Winding down      BREAK, an error [ExecuteProgramLine], Stop or Space [StopProgram],
+//                                the emergency stop, a machine that falls asleep [AbortProgram]
+//   Running -> Idle              behind the last line: the same end, with bProgramRunning true for
+//                                its 100 ms, so that a Stop still acts there [RunProgram]
+//   Winding down -> Idle         [AbortProgram, FinishRun]
+//   Trace step -> Idle           a line is done, fails or ends the program [FinishStep]; a stop
+//                                takes effect when the statement at hand returns
+//
+// An error takes one of these roads, and each gives the screen back:
+//   compile pass     its box; the line at fault stays selected, nothing has run
+//   missing label    its box with bProgramRunning still true; then the end of a run or step
+//   statement        its box, if it has one, with bProgramRunning still true; then the stop path of
+//                    ExecuteProgramLine. The line stays selected and lCurrentLine on it
+//   RunProgram       whatever its state: box 520, power 0, Idle at once, without the 100 ms; the
+//                    hourglass over the program box stays until a run ends well [ReportRunError]
+//
+// Trace is not locked while a run winds down, nor Run while a Trace step does: such a press is
+// carried out whole inside the pump, and its end gives the screen back early. When it returns,
+// bProgramRunning is off, and what stood around it winds down further.
 
 namespace glidetrak {
 
-/// Index of the line at hand in LineTable, and the run loop's counter: a jump writes its target
-/// here and the loop adds 1. Survives between runs and Trace steps; a new or loaded program sets
-/// it to 0.
-inline qint32 lCurrentLine = 0;
-
-/// RunProgram or StepProgram has not returned: a program runs, or winds down with bProgramRunning
-/// already off. What would lock the screen itself must wait, since the end of the run unlocks it.
-inline bool bRunUnderWay = false;
-
-/// PrepareTrace has done its work; false after a new or loaded program.
-inline bool bTraceArmed = false;
-
-/// Compiles, resolves the jumps and runs to the end. However a run ends, it ends with power 0.
+/// Compiles, resolves the jumps and runs to the end; returns when the program has ended. However a
+/// run ends, it ends with power 0. Nothing while bProgramRunning.
 void RunProgram();
 
 /// One Trace step: compiles and executes the next line that is not empty. Variables, IF flags and
-/// position stay from step to step; the power stays where the program left it.
+/// position stay from step to step; the power stays where the program left it. Nothing while
+/// bProgramRunning.
 ///
 /// The end of a Trace is odd, deliberately: the step that finds the end of the table leaves
 /// lCurrentLine at 2, with the second line shown, and the next press executes the third line.
 void StepProgram();
 
-/// Ahead of the click that steps: compiles once and shows the line at the caret.
+/// Ahead of the click that steps: compiles once and shows the line at the caret, which does not
+/// move lCurrentLine. Nothing while bProgramRunning, or once bTraceArmed.
 void PrepareTrace();
 
-/// The user's stop: power 0 at once, then a plain freeze of 200 ms.
+/// The user's stop: power 0 and bProgramRunning off at once, then a freeze of 200 ms that pumps
+/// nothing. Nothing while no program runs.
 void StopProgram();
-
-/// Finds the target of the GOTO on the line at lCurrentLine; the argument is not used. It looks for
-/// GOTO anywhere in the line, so that LABEL GOTOEND asks for a label END. Deliberate.
-LineResult ResolveGotoLine(qint32 lIndex);
 
 /// Selects the compiled line in which the caret stands. The table is that of the last compile.
 void SelectCaretLine();
 
-/// Unlocks the screen after a run.
+/// Unlocks the screen after a run; also puts bProgramRunning off.
 void FinishRun();
 
-/// Unlocks the screen after a Trace step; bResetLine puts lCurrentLine to 0.
+/// Unlocks the screen after a Trace step, as FinishRun does; bResetLine puts lCurrentLine to 0.
 void FinishStep(bool bResetLine);
 
-/// Tells of an error in RunProgram itself and unlocks the screen.
+/// Tells of an error in RunProgram itself, stops the motor and unlocks the screen.
 void ReportRunError();
 
 /// Enables or disables the three menu heads.
 void SetRunMenus(bool bEnabled);
-
-// The keys of a running program; with no program running they do nothing and keys pass on. A key
-// code is a virtual key code, a character code one of the code page; 0 swallows the key. Space
-// always stops and is never read by GET.
-
-void Form_KeyDown(int& iKeyCode);
-void Form_KeyPress(int& iCharCode);
-void Form_KeyUp(int& iKeyCode);
-void txtProgram_KeyPress(int& iCharCode);
 
 void cmdRunProgram_Click();
 void btnStopProg_Click();

@@ -1,11 +1,10 @@
-// What PRINT and WAIT make of the text behind them.
+#include "language/StatementArguments.h"
 
 #include <algorithm>
 
 #include "common/CheckedArithmetic.h"
 #include "common/UnicodeFunctions.h"
 #include "language/ProgramError.h"
-#include "language/Statements.h"
 #include "language/Variables.h"
 
 namespace glidetrak {

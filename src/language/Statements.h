@@ -28,15 +28,4 @@ QString SelectProgramLine(qint32 lIndex);
 /// result is empty whatever came of it: the dispatcher then stops with 511. Deliberate.
 QString FindCommandKeyword(const QString& sText);
 
-/// The message of a PRINT, from the text behind the keyword.
-QString BuildPrintMessage(const QString& sText);
-
-/// The time of a WAIT, 1 to 32000 ms, from the first run of digits. False for anything else, after
-/// message 508 unless the text is empty or beyond 32 bits.
-bool ParseWaitTime(const QString& sText, qint32& lMilliseconds);
-
-/// Last key caught while a program runs, one upper-case character; "" when none since it was
-/// emptied by GET. Written by the key events of run control.
-inline QString sKeyPressed;
-
 }  // namespace glidetrak

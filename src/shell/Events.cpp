@@ -5,6 +5,7 @@
 #include "form/frmAbout.h"
 #include "form/frmGlidetrak.h"
 #include "hardware/AdapterLayer.h"
+#include "language/KeyCapture.h"
 #include "language/RunControl.h"
 #include "programs/PresetCatalogue.h"
 #include "shell/AboutBox.h"

@@ -1,8 +1,7 @@
 // The program editor: changes, the double click, the reset.
 
-#include "language/Expressions.h"
 #include "language/Keywords.h"
-#include "language/RunControl.h"
+#include "language/RunState.h"
 #include "programfiles/PresetTest.h"
 #include "track/OutputImage.h"
 

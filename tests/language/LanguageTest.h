@@ -8,7 +8,7 @@
 #include "form/frmGlidetrak.h"
 #include "language/CompilePass.h"
 #include "language/Expressions.h"
-#include "language/RunControl.h"
+#include "language/RunState.h"
 #include "language/Variables.h"
 #include "station/Station.h"
 #include "strings/ResourceText.h"

@@ -1,5 +1,6 @@
 // The LET and IF statements and the comparison.
 
+#include "language/LetAndIf.h"
 #include "language/LanguageTest.h"
 
 namespace glidetrak {

@@ -1,5 +1,6 @@
 // The GOTO of one line against the labels.
 
+#include "language/ResolveGoto.h"
 #include "language/LanguageTest.h"
 #include "track/OutputImage.h"
 

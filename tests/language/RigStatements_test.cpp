@@ -3,6 +3,7 @@
 #include "language/RigStatements.h"
 
 #include "language/LanguageTest.h"
+#include "language/LetAndIf.h"
 #include "track/OutputImage.h"
 
 namespace glidetrak {

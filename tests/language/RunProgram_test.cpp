@@ -1,6 +1,7 @@
 // A run from click to end: its times, its locks, and how it ends.
 
 #include "language/LanguageTest.h"
+#include "language/RunControl.h"
 #include "track/AbortProgram.h"
 #include "track/OutputImage.h"
 

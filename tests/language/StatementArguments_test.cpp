@@ -1,5 +1,6 @@
 // What PRINT, WAIT and GET make of the text behind them.
 
+#include "language/StatementArguments.h"
 #include "language/LanguageTest.h"
 
 namespace glidetrak {

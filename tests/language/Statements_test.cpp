@@ -1,5 +1,6 @@
 // The dispatcher: which keyword heads a line, and what a line comes to.
 
+#include "language/Statements.h"
 #include "language/Keywords.h"
 #include "language/LanguageTest.h"
 #include "track/OutputImage.h"

@@ -1,6 +1,7 @@
 // The user's stop, wherever the program stands.
 
 #include "language/LanguageTest.h"
+#include "language/RunControl.h"
 #include "track/OutputImage.h"
 
 namespace glidetrak {

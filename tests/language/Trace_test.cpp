@@ -1,6 +1,8 @@
 // Trace: one line a press.
 
 #include "language/LanguageTest.h"
+#include "language/RunControl.h"
+#include "track/OutputImage.h"
 
 namespace glidetrak {
 namespace {

@@ -7,7 +7,7 @@
 #include "common/UnicodeFunctions.h"
 #include "form/frmGlidetrak.h"
 #include "language/CompilePass.h"
-#include "language/RunControl.h"
+#include "language/RunState.h"
 #include "platform/Platform.h"
 #include "programs/ProgramFiles.h"
 #include "station/Station.h"

@@ -5,7 +5,7 @@
 #include "common/UnicodeFunctions.h"
 #include "form/ControlTable.h"
 #include "form/frmGlidetrak.h"
-#include "language/RunControl.h"
+#include "language/RunState.h"
 #include "language/Variables.h"
 #include "programs/ProgramFiles.h"
 #include "shell/Events.h"
