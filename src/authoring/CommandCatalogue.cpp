@@ -1,8 +1,7 @@
-// The catalogue: the help of each row of CommandNameRows.
+#include "authoring/CommandCatalogue.h"
 
 #include <array>
 
-#include "authoring/CommandPicker.h"
 #include "form/frmGlidetrak.h"
 #include "language/CommandNames.h"
 #include "strings/ResourceText.h"

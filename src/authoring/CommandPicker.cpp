@@ -1,7 +1,6 @@
-// The picker's panel.
-
 #include "authoring/CommandPicker.h"
 
+#include "authoring/CommandCatalogue.h"
 #include "authoring/ProgramEditor.h"
 #include "common/MiscCode.h"
 #include "common/SharedState.h"

@@ -1,30 +1,14 @@
 #pragma once
 
-// The command catalogue and its picker: every command and sensor name with format, description and
-// example, and the way of a name into the program.
+// The picker of the command catalogue: a panel that shows each entry's help, and the way of a name
+// into the program.
 //
 // While the panel is open the program controls and the menu heads are disabled, so that it cannot
 // be opened twice and no program can start.
 
-#include <QString>
-#include <vector>
+#include <QtGlobal>
 
 namespace glidetrak {
-
-struct CommandHelp {
-  QString sDescription;
-  QString sFormat;
-  QString sExample;  ///< lines joined by CR LF; trimmed only when shown
-};
-
-/// The entry of list position i stands at i + 1; index 0 stays empty. Built once, at start-up.
-inline std::vector<CommandHelp> CommandHelpTable;
-
-/// Fills lstProgCommands, CommandNameTable and CommandHelpTable from the keywords and the strings.
-void BuildCommandCatalogue();
-
-void AddCatalogueEntry(const QString& sText, const QString& sDescription, const QString& sFormat,
-                       const QString& sExample, bool bIsSensor);
 
 /// Opens the panel on the first entry. Nothing until RunProgram or StepProgram has returned: a run
 /// that winds down would unlock the program's controls under the open panel.

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "authoring/CommandPicker.h"
+#include "authoring/CommandCatalogue.h"
 #include "authoring/Document.h"
 #include "authoring/ProgramEditor.h"
 #include "common/Settings.h"

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include "authoring/CommandCatalogue.h"
 #include "authoring/CommandPicker.h"
 #include "authoring/Document.h"
 #include "authoring/ProgramEditor.h"

@@ -2,7 +2,7 @@
 
 #include "language/CommandNames.h"
 
-#include "authoring/CommandPicker.h"
+#include "authoring/CommandCatalogue.h"
 #include "language/Keywords.h"
 #include "language/LanguageTest.h"
 #include "strings/LanguageFunctions.h"

@@ -11,6 +11,7 @@
 #include <QTextLayout>
 #include <QTimer>
 
+#include "authoring/CommandCatalogue.h"
 #include "authoring/CommandPicker.h"
 #include "authoring/Document.h"
 #include "authoring/ProgramEditor.h"

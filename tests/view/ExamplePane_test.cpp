@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QClipboard>
 
+#include "authoring/CommandCatalogue.h"
 #include "authoring/CommandPicker.h"
 #include "language/Keywords.h"
 #include "shell/Events.h"

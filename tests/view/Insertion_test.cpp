@@ -1,5 +1,6 @@
 // The picker's insertion in the real editor, and what is typed onto it.
 
+#include "authoring/CommandCatalogue.h"
 #include "authoring/CommandPicker.h"
 #include "authoring/ProgramEditor.h"
 #include "language/Keywords.h"
