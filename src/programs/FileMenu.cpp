@@ -9,7 +9,7 @@
 #include "programs/ProgramFiles.h"
 #include "strings/ResourceText.h"
 #include "strings/ShowMessage.h"
-#include "track/OperatingPanel.h"
+#include "track/ModeAndDirection.h"
 
 namespace glidetrak {
 

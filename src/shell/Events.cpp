@@ -12,8 +12,11 @@
 #include "shell/Closing.h"
 #include "shell/Hover.h"
 #include "shell/Layout.h"
-#include "track/OperatingPanel.h"
+#include "track/EmergencyStop.h"
+#include "track/Lever.h"
+#include "track/ModeAndDirection.h"
 #include "track/SystemTick.h"
+#include "track/TogglesAndTimer.h"
 
 namespace glidetrak {
 

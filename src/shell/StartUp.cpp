@@ -24,7 +24,7 @@
 #include "strings/ResourceText.h"
 #include "strings/ShowMessage.h"
 #include "track/DebugPanel.h"
-#include "track/OperatingPanel.h"
+#include "track/ModeAndDirection.h"
 #include "track/OutputImage.h"
 #include "track/SystemTick.h"
 

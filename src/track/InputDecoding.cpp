@@ -19,6 +19,7 @@ constexpr qint32 lLongestJourney = 9999990;  ///< milliseconds; the display's la
 bool bInJourneyStep = false;
 
 void StartJourney(qint32 lGates) {
+  Q_ASSERT(bTimerArmed && lElapsedMs == 0);
   bTimerStarted = true;
   iStopGateMask = lGates ^ lGateBits;
   lElapsedMs = 0;
@@ -32,6 +33,7 @@ void Accumulate() {
 }
 
 void FinishJourney() {
+  Q_ASSERT(bTimerArmed && bTimerStarted);
   if (lElapsedMs >= lLongestJourney) lElapsedMs = lLongestJourney;
   bTimerArmed = false;
   bTimerStarted = false;
@@ -77,6 +79,7 @@ void ShowImpact() {
 
 void RunJourneyTimer() {
   if (bInJourneyStep) return;
+  Q_ASSERT(bTimerArmed || !bTimerStarted);
   bInJourneyStep = true;
   SkipOnError(StepJourney);
   bInJourneyStep = false;

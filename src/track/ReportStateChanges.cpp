@@ -5,7 +5,7 @@
 #include "common/SharedState.h"
 #include "hardware/AdapterLayer.h"
 #include "track/InputDecoding.h"
-#include "track/OperatingPanel.h"
+#include "track/ModeAndDirection.h"
 #include "track/OutputImage.h"
 
 namespace glidetrak {

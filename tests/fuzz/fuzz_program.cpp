@@ -15,7 +15,7 @@
 #include "programs/ProgramFiles.h"
 #include "shell/Events.h"
 #include "shell/StartUp.h"
-#include "track/OperatingPanel.h"
+#include "track/ModeAndDirection.h"
 #include "virtual/VirtualPlatform.h"
 
 namespace {

@@ -4,8 +4,8 @@
 
 #include "common/SharedState.h"
 #include "form/frmGlidetrak.h"
+#include "track/EmergencyStop.h"
 #include "track/InputDecoding.h"
-#include "track/OperatingPanel.h"
 #include "track/OutputImage.h"
 
 namespace glidetrak {

@@ -6,7 +6,7 @@
 #include "form/frmGlidetrak.h"
 #include "shell/Events.h"
 #include "shell/StartUp.h"
-#include "track/OperatingPanel.h"
+#include "track/ModeAndDirection.h"
 #include "transcript/Clicks.h"
 
 namespace glidetrak {

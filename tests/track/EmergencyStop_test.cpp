@@ -6,7 +6,7 @@
 #include "common/SharedState.h"
 #include "form/frmGlidetrak.h"
 #include "station/RigStation.h"
-#include "track/OperatingPanel.h"
+#include "track/EmergencyStop.h"
 #include "track/OutputImage.h"
 #include "track/PropertyWatch.h"
 

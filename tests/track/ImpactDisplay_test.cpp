@@ -8,7 +8,7 @@
 #include "hardware/AdapterLayer.h"
 #include "station/RigStation.h"
 #include "track/InputDecoding.h"
-#include "track/OperatingPanel.h"
+#include "track/TogglesAndTimer.h"
 
 namespace glidetrak {
 namespace {

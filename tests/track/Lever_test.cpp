@@ -7,7 +7,7 @@
 #include "form/frmGlidetrak.h"
 #include "station/NamedRow.h"
 #include "station/RigStation.h"
-#include "track/OperatingPanel.h"
+#include "track/ModeAndDirection.h"
 #include "track/OutputImage.h"
 
 namespace glidetrak {

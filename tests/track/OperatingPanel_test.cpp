@@ -1,6 +1,7 @@
 // The operating panel: what SetControlStates shows, and when its buttons do something.
 
-#include "track/OperatingPanel.h"
+#include "track/Lever.h"
+#include "track/ModeAndDirection.h"
 
 #include <gtest/gtest.h>
 

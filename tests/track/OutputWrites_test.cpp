@@ -10,7 +10,7 @@
 #include "language/RunControl.h"
 #include "station/Station.h"
 #include "track/AbortProgram.h"
-#include "track/OperatingPanel.h"
+#include "track/ModeAndDirection.h"
 #include "track/OutputImage.h"
 
 namespace glidetrak {

@@ -9,7 +9,8 @@
 #include "station/NamedRow.h"
 #include "station/RigStation.h"
 #include "track/InputDecoding.h"
-#include "track/OperatingPanel.h"
+#include "track/Lever.h"
+#include "track/ModeAndDirection.h"
 #include "track/OutputImage.h"
 
 namespace glidetrak {

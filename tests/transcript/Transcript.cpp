@@ -11,7 +11,7 @@
 #include "shell/Events.h"
 #include "shell/StartUp.h"
 #include "strings/LanguageFunctions.h"
-#include "track/OperatingPanel.h"
+#include "track/ModeAndDirection.h"
 #include "transcript/Clicks.h"
 
 namespace glidetrak {

@@ -1,8 +1,9 @@
-#include "track/OperatingPanel.h"
+#include "track/ModeAndDirection.h"
 
 #include "common/MiscCode.h"
 #include "common/SharedState.h"
 #include "form/frmGlidetrak.h"
+#include "track/Lever.h"
 #include "track/OutputImage.h"
 
 namespace glidetrak {
@@ -39,11 +40,6 @@ void ShowProgramBox() {
   pnlProgramBox.Visible = InProgramMode();
   const PictureId wanted = imgPanels.ListImage(InProgramMode() ? 2 : 1);
   if (imgControls.Picture.value() != wanted) imgControls.Picture = wanted;
-}
-
-void ShowLeverPointer() {
-  const int iWanted = bEmergencyStop || InProgramMode() ? ptrNoDrop : ptrCustom;
-  if (imgLever.MousePointer != iWanted) imgLever.MousePointer = iWanted;
 }
 
 void ShowHover(ImageButton& button, bool bMayHover) {
