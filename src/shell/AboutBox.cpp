@@ -8,7 +8,6 @@
 #include "form/frmGlidetrak.h"
 #include "platform/Platform.h"
 #include "strings/ResourceText.h"
-#include "track/DebugPanel.h"
 
 namespace glidetrak {
 
@@ -88,20 +87,6 @@ void picClose_Click() {
 
 void MNUAbout_Click() {
   if (!bProgramRunning) ShowPlzW8Box(true);
-}
-
-void MNUShowDebug_Click() {
-  pnlDebug.Visible = true;
-  RefreshDebugPanel();
-}
-
-void imgCloseDebug_Click() {
-  pnlDebug.Visible = false;
-  frmGlidetrak.Refresh();
-}
-
-void pnlDebug_DblClick() {
-  frmGlidetrak.Refresh();
 }
 
 }  // namespace glidetrak

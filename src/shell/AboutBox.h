@@ -25,8 +25,4 @@ void picClose_Click();
 /// Nothing while a program runs.
 void MNUAbout_Click();
 
-void MNUShowDebug_Click();
-void imgCloseDebug_Click();
-void pnlDebug_DblClick();
-
 }  // namespace glidetrak

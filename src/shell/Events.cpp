@@ -12,6 +12,7 @@
 #include "shell/Closing.h"
 #include "shell/Hover.h"
 #include "shell/Layout.h"
+#include "track/DebugPanel.h"
 #include "track/EmergencyStop.h"
 #include "track/Lever.h"
 #include "track/ModeAndDirection.h"

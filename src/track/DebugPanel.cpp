@@ -46,4 +46,18 @@ void RefreshDebugPanel() {
   });
 }
 
+void MNUShowDebug_Click() {
+  pnlDebug.Visible = true;
+  RefreshDebugPanel();
+}
+
+void imgCloseDebug_Click() {
+  pnlDebug.Visible = false;
+  frmGlidetrak.Refresh();
+}
+
+void pnlDebug_DblClick() {
+  frmGlidetrak.Refresh();
+}
+
 }  // namespace glidetrak

@@ -14,4 +14,12 @@ void FillLampColours();
 /// error ends the call and leaves the old values.
 void RefreshDebugPanel();
 
+/// Shows the panel, in every mode and during a run.
+void MNUShowDebug_Click();
+
+void imgCloseDebug_Click();
+
+/// Repaints the form and leaves the panel open.
+void pnlDebug_DblClick();
+
 }  // namespace glidetrak
