@@ -1,4 +1,4 @@
-// New, Open, Save and Save As.
+#include "programs/FileMenu.h"
 
 #include "authoring/Document.h"
 #include "authoring/ProgramEditor.h"
@@ -182,6 +182,26 @@ void SetFileMenuStates(bool bEnable) {
   MNULOADPROG.Enabled = bEnable;
   MNUSAVEPROG.Enabled = bEnable && bHasText;
   MNUSAVEPROGAS.Enabled = bEnable && bHasText;
+}
+
+void MNUNEWPROG_Click() {
+  NewProgram();
+}
+
+void MNULOADPROG_Click() {
+  OpenProgram();
+}
+
+void MNUSAVEPROG_Click() {
+  SaveProgram();
+}
+
+void MNUSAVEPROGAS_Click() {
+  SaveProgramAs();
+}
+
+void MNUEXIT_Click() {
+  if (!bProgramRunning) frmGlidetrak.Unload();
 }
 
 }  // namespace glidetrak

@@ -10,6 +10,7 @@
 #include "common/UserPaths.h"
 #include "form/frmGlidetrak.h"
 #include "language/CompilePass.h"
+#include "programs/FileMenu.h"
 #include "programs/ProgramFiles.h"
 #include "strings/ResourceText.h"
 

@@ -1,5 +1,3 @@
-// Files by path: loading, writing, names.
-
 #include "programs/ProgramFiles.h"
 
 #include <QRandomGenerator>

@@ -3,27 +3,15 @@
 // Control Programs on disk. A file holds the text of the editor and nothing else: one byte a
 // character in the code page, line ends as the editor holds them (CR LF). Bytes are never judged
 // here; the compile pass finds fault with them.
-//
-// New, Open, Save and Save As refuse silently while a program runs.
 
 #include <QString>
 
 namespace glidetrak {
 
 /// The one file slot stands open, left so by a write that broke off: nothing can be opened any more
-/// until the process ends. Deliberate. An open that is refused leaves it free.
+/// until the process ends. Deliberate. An open that is refused leaves it free. Written by
+/// WriteProgramFile alone.
 inline bool bFileSlotOpen = false;
-
-void NewProgram();
-void OpenProgram();
-void SaveProgram();
-void SaveProgramAs();
-
-/// Tells of unsaved changes and asks whether to save them; true for Yes.
-bool AskSaveChanges(const QString& sTitle);
-
-/// Asks, and Yes saves. Whatever comes of that, the caller goes on: there is no way out here.
-void PromptSaveChanges(const QString& sTitle);
 
 /// Loads a program; the old text goes only after the new one was read. A file that is not named
 /// .GTP is never written back: the program takes the next free .GTP name beside it. On false
@@ -51,9 +39,6 @@ bool FileExists(const QString& sPath);
 
 /// 0 writable, 1 read-only (and the user was told), 2 unknown. Callers treat 1 and 2 alike.
 int IsFileReadOnly(const QString& sPath);
-
-/// New and Open take bEnable; Save and Save As also ask for a text.
-void SetFileMenuStates(bool bEnable);
 
 /// What a file is read through: throws while the slot stands open.
 QByteArray ReadThroughSlot(const QString& sPath);

@@ -7,7 +7,7 @@
 #include "hardware/AdapterLayer.h"
 #include "language/RunControl.h"
 #include "platform/Platform.h"
-#include "programs/ProgramFiles.h"
+#include "programs/FileMenu.h"
 #include "shell/Placement.h"
 #include "strings/ResourceText.h"
 #include "strings/ShowMessage.h"
@@ -62,26 +62,6 @@ void Form_Unload() {
 
 void Form_Suspend() {
   if (!bShuttingDown) AbortProgram();
-}
-
-void MNUNEWPROG_Click() {
-  NewProgram();
-}
-
-void MNULOADPROG_Click() {
-  OpenProgram();
-}
-
-void MNUSAVEPROG_Click() {
-  SaveProgram();
-}
-
-void MNUSAVEPROGAS_Click() {
-  SaveProgramAs();
-}
-
-void MNUEXIT_Click() {
-  if (!bProgramRunning) frmGlidetrak.Unload();
 }
 
 }  // namespace glidetrak

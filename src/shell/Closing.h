@@ -15,12 +15,4 @@ void Form_Unload();
 /// with it. Nothing once shut-down has begun, behind whose last byte none may come.
 void Form_Suspend();
 
-void MNUNEWPROG_Click();
-void MNULOADPROG_Click();
-void MNUSAVEPROG_Click();
-void MNUSAVEPROGAS_Click();
-
-/// Nothing while a program runs; the window's own close box still works then.
-void MNUEXIT_Click();
-
 }  // namespace glidetrak

@@ -7,6 +7,7 @@
 #include "hardware/AdapterLayer.h"
 #include "language/KeyCapture.h"
 #include "language/RunControl.h"
+#include "programs/FileMenu.h"
 #include "programs/PresetCatalogue.h"
 #include "shell/AboutBox.h"
 #include "shell/Closing.h"

@@ -14,6 +14,7 @@
 #include "hardware/AdapterLayer.h"
 #include "language/CompilePass.h"
 #include "platform/Platform.h"
+#include "programs/FileMenu.h"
 #include "programs/PresetCatalogue.h"
 #include "programs/ProgramFiles.h"
 #include "shell/AboutBox.h"

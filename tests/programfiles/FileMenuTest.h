@@ -10,6 +10,7 @@
 #include "common/SharedState.h"
 #include "common/UserPaths.h"
 #include "form/frmGlidetrak.h"
+#include "programs/FileMenu.h"
 #include "programs/ProgramFiles.h"
 #include "station/NamedRow.h"
 #include "station/Station.h"

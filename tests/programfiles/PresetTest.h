@@ -9,6 +9,7 @@
 #include "common/SharedState.h"
 #include "form/frmGlidetrak.h"
 #include "language/CompilePass.h"
+#include "programs/FileMenu.h"
 #include "programs/PresetCatalogue.h"
 #include "programs/ProgramFiles.h"
 #include "station/NamedRow.h"
