@@ -7,6 +7,7 @@
 #include "hardware/AdapterLayer.h"
 #include "platform/ProcessEnd.h"
 #include "platform/Suspend.h"
+#include "platform/linux/LinuxHid.h"
 #include "platform/linux/LinuxMachine.h"
 #include "shell/Closing.h"
 #include "shell/Events.h"
@@ -17,8 +18,10 @@
 int main(int argc, char** argv) {
   QApplication application(argc, argv);
   glidetrak::LinuxMachine machine;
+  glidetrak::LinuxHid hid;
   glidetrak::ViewDesktop desktop;
   glidetrak::pMachine = &machine;
+  glidetrak::pHid = &hid;
   glidetrak::pDesktop = &desktop;
 
   machine.SetActivation([] { glidetrak::MainWindow()->ComeForward(); });
@@ -29,7 +32,7 @@ int main(int argc, char** argv) {
   glidetrak::ResetForms();
   glidetrak::WireEvents();
   glidetrak::BuildView();
-  glidetrak::Form_Load(glidetrak::CommandLine(QApplication::arguments()));
+  glidetrak::Form_Load(machine.CommandLine());
   glidetrak::OnSuspend(glidetrak::Form_Suspend);
   QApplication::exec();
   machine.EndProcess();

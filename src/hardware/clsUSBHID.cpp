@@ -20,15 +20,15 @@ bool clsUSBHID::WriteReport(const QByteArray& data) {
   if (data.size() > m_capabilities.iOutput - 1) return false;
   QByteArray report(m_capabilities.iOutput, '\0');
   std::copy(data.begin(), data.end(), report.begin() + 1);
-  if (m_lReadHandle != 0) pMachine->HidDropInput(m_lReadHandle);
-  const qint32 lWritten = pMachine->HidWrite(m_lHIDhandle, report);
+  if (m_lReadHandle != 0) pHid->DropInput(m_lReadHandle);
+  const qint32 lWritten = pHid->Write(m_lHIDhandle, report);
   RecordLastError();
   return lWritten != 0;
 }
 
 void clsUSBHID::WriteInCrash(std::span<const char> report) {
   if (m_lHIDhandle == 0 || m_capabilities.iOutput > report.size()) return;
-  pMachine->HidWrite(m_lHIDhandle, QByteArray::fromRawData(report.data(), m_capabilities.iOutput));
+  pHid->Write(m_lHIDhandle, QByteArray::fromRawData(report.data(), m_capabilities.iOutput));
 }
 
 std::optional<QByteArray> clsUSBHID::ReadReport() {
@@ -36,7 +36,7 @@ std::optional<QByteArray> clsUSBHID::ReadReport() {
   if (!m_bConnected) return {};
   if (m_lReadHandle == 0 || m_capabilities.iInput == 0) return {};
   QByteArray report(m_capabilities.iInput, '\0');
-  const HidReadResult result = pMachine->HidRead(m_lReadHandle, lReadTimeOut, report);
+  const HidReadResult result = pHid->Read(m_lReadHandle, lReadTimeOut, report);
   RecordLastError();
   switch (result) {
     case HidReadResult::Success:
@@ -57,14 +57,14 @@ void clsUSBHID::OpenWhenNeeded() {
 
 void clsUSBHID::OpenDevice() {
   CloseDevice();
-  for (const HidListing& listing : pMachine->HidDevices()) {
+  for (const HidListing& listing : pHid->Devices()) {
     // A device of somebody else's is not even opened: that alone may stir it.
     if (listing.iVendorID != iVendorID || listing.iProductID != iProductID) continue;
-    m_lHIDhandle = pMachine->HidOpen(listing.path);
+    m_lHIDhandle = pHid->Open(listing.path);
     RecordLastError();
     if (AcceptDevice()) {
       LearnReportLengths();
-      m_lReadHandle = pMachine->HidOpen(listing.path);
+      m_lReadHandle = pHid->Open(listing.path);
       RecordLastError();
       return;
     }
@@ -76,7 +76,7 @@ void clsUSBHID::OpenDevice() {
 /// another device since it was listed.
 bool clsUSBHID::AcceptDevice() {
   HidAttributes attributes;
-  if (m_lHIDhandle == 0 || !pMachine->GetHidAttributes(m_lHIDhandle, attributes)) return false;
+  if (m_lHIDhandle == 0 || !pHid->Attributes(m_lHIDhandle, attributes)) return false;
   const bool bVersionFits =
       iVersionNumber == iAnyVersion || iVersionNumber == attributes.iVersionNumber;
   m_bConnected =
@@ -87,20 +87,20 @@ bool clsUSBHID::AcceptDevice() {
 
 /// Lengths that cannot be learnt this time leave those of an earlier opening in force.
 void clsUSBHID::LearnReportLengths() {
-  if (pMachine->GetHidReportLengths(m_lHIDhandle, m_capabilities)) m_bLengthsKnown = true;
+  if (pHid->ReportLengths(m_lHIDhandle, m_capabilities)) m_bLengthsKnown = true;
   RecordLastError();
 }
 
 void clsUSBHID::CloseDevice() {
   for (qint32* pHandle : {&m_lHIDhandle, &m_lReadHandle}) {
-    if (*pHandle != 0) pMachine->HidClose(*pHandle);
+    if (*pHandle != 0) pHid->Close(*pHandle);
     *pHandle = 0;
   }
   m_bConnected = false;
 }
 
 void clsUSBHID::RecordLastError() {
-  m_sLastError = pMachine->HidErrorText();
+  m_sLastError = pHid->ErrorText();
 }
 
 }  // namespace glidetrak

@@ -29,7 +29,7 @@
 #include <span>
 
 #include "hardware/modUSBHID.h"
-#include "platform/Platform.h"
+#include "platform/Hid.h"
 
 namespace glidetrak {
 

@@ -1,9 +1,10 @@
 #pragma once
 
 // What the station asks of the machine, in the station's own terms. `Machine` is what needs no
-// window (platform/linux and platform/windows answer it), `Desktop` what does (view/ answers it).
-// Tests answer both with one virtual platform. The two pointers below are set before start-up and
-// stay set until the process ends; they own nothing.
+// window (platform/linux and platform/windows answer it), `Desktop` what does (view/ answers it);
+// the HID devices have an interface of their own, Hid.h. Tests answer Machine and Desktop with one
+// virtual platform. The two pointers below are set before start-up and stay set until the process
+// ends; they own nothing.
 //
 // Paths are written the station's way, with backslashes, and are compared without regard to case.
 // Files are bytes; text is QString.
@@ -12,7 +13,6 @@
 #include <QString>
 #include <initializer_list>
 #include <optional>
-#include <vector>
 
 #include "platform/RuntimeError.h"
 
@@ -20,31 +20,6 @@ namespace glidetrak {
 
 /// The two scopes of the settings store.
 enum class Scope { User, Machine };
-
-struct HidAttributes {
-  qint16 iVendorID = 0;  ///< the 16 bits as they are, so that ids from 0x8000 are negative
-  qint16 iProductID = 0;
-  qint16 iVersionNumber = 0;
-};
-
-/// A device as the enumeration tells of it, without opening it.
-struct HidListing {
-  QByteArray path;
-  qint16 iVendorID = 0;  ///< as in HidAttributes
-  qint16 iProductID = 0;
-};
-
-/// Both lengths in bytes, counting the report id byte; 0 where the device has no such report.
-struct HidReportLengths {
-  quint16 iInput = 0;
-  quint16 iOutput = 0;
-};
-
-enum class HidReadResult { Success, TimeOut, Failed };
-
-/// Input reports that one HidDropInput drops: the places of an input queue, and an end to it where
-/// a device sends faster than they are dropped.
-constexpr int iMostDropped = 64;
 
 class Machine {
  public:
@@ -75,6 +50,10 @@ class Machine {
 
   /// Deletes the file; of a link its target, and the link stays. Throws FileNotFound or FileAccess.
   virtual void DeleteFile(const QString& sPath) = 0;
+
+  /// What stands behind the program's name on the command line, as one raw text; "" for nothing. A
+  /// path in it is the station's way of writing it.
+  virtual QString CommandLine() = 0;
 
   /// Folder of the executable, with or without a backslash at its end.
   virtual QString ExecutableFolder() = 0;
@@ -119,33 +98,6 @@ class Machine {
 
   /// The present time of day in the locale's long format, without the zone.
   virtual QString LongTime() = 0;
-
-  /// The HID devices that are present, each path once. Opens none of them.
-  virtual std::vector<HidListing> HidDevices() = 0;
-
-  /// Opens a device for reading and writing, shared; a handle, or 0 when it cannot be opened. Each
-  /// handle has an input queue of its own, in which every input report of the device waits from the
-  /// opening on, whoever asked for it.
-  virtual qint32 HidOpen(const QByteArray& path) = 0;
-  virtual void HidClose(qint32 lHandle) = 0;
-
-  /// False, and nothing written, when the device does not tell.
-  virtual bool GetHidAttributes(qint32 lHandle, HidAttributes& attributes) = 0;
-  virtual bool GetHidReportLengths(qint32 lHandle, HidReportLengths& lengths) = 0;
-
-  /// Drops what waits in the handle's input queue, at most iMostDropped reports, and never waits
-  /// for one. Nothing for a handle whose device is gone.
-  virtual void HidDropInput(qint32 lHandle) = 0;
-
-  /// Writes one whole output report, the report id first; the count of bytes written, 0 on failure.
-  virtual qint32 HidWrite(qint32 lHandle, const QByteArray& report) = 0;
-
-  /// Waits up to lTimeOut ms for one input report. On Success `report`, which comes with the length
-  /// of an input report, holds the report id first; what the device did not send stays as it was.
-  virtual HidReadResult HidRead(qint32 lHandle, qint32 lTimeOut, QByteArray& report) = 0;
-
-  /// The text of the last HID error, for a debugger; "" when there was none.
-  virtual QString HidErrorText() = 0;
 
   /// Calls the operation of that name, a literal, of the library trackport32; all integers are
   /// 32-bit and passed by value, 0 to 2 of them. Throws PlatformCall when the library or the

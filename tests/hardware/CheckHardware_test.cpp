@@ -183,7 +183,7 @@ TEST_F(Adapter, IsLookedForTwiceOnUsbBeforeThePort) {
 class LateDevice : public Adapter {
  protected:
   LateDevice() {
-    platform.OnEnumerate = [this] {
+    rig.OnEnumerate = [this] {
       if (rig.iEnumerations == 1) station.Attach(RigLink::Usb);
     };
   }

@@ -21,8 +21,8 @@ class LastByte : public testing::Test {
     station.Start(link);
     SetPower(15);
     station.Forget();
-    platform.aReadHandles.clear();
-    platform.aOpenedPaths.clear();
+    rig.aReadHandles.clear();
+    rig.aOpenedPaths.clear();
   }
 
   RigStation station;
@@ -106,8 +106,8 @@ TEST_F(LastByte, OfACrashIsOneWriteToTheOpenDeviceAndNothingElse) {
   ASSERT_EQ(rig.aReports.size(), 1U);
   EXPECT_EQ(rig.aReports[0], QByteArray("\0\4\1", 3) + QByteArray(62, '\0'));
   EXPECT_EQ(rig.iEnumerations, iLooks);
-  EXPECT_THAT(platform.aOpenedPaths, IsEmpty());
-  EXPECT_THAT(platform.aReadHandles, IsEmpty());
+  EXPECT_THAT(rig.aOpenedPaths, IsEmpty());
+  EXPECT_THAT(rig.aReadHandles, IsEmpty());
 }
 
 TEST_F(LastByte, OfACrashOpensNoDevice) {
@@ -116,10 +116,10 @@ TEST_F(LastByte, OfACrashOpensNoDevice) {
   SetPower(14);
   rig.aDevices[0].mood = HidMood::Answers;
   station.Forget();
-  platform.aOpenedPaths.clear();
+  rig.aOpenedPaths.clear();
   StopRigInCrash();
   EXPECT_THAT(rig.aReports, IsEmpty());
-  EXPECT_THAT(platform.aOpenedPaths, IsEmpty());
+  EXPECT_THAT(rig.aOpenedPaths, IsEmpty());
 }
 
 }  // namespace

@@ -141,7 +141,7 @@ TEST_F(Ports, ReadTheHighNibbleOfTheUsbAnalogByte) {
   const std::pair<char, int> aRows[] = {{'\xF0', 15}, {'\x0F', 0}, {'\x00', 0}, {'\xFF', 15},
                                         {'\x10', 1},  {'\x1F', 1}, {'\x80', 8}, {'\x7F', 7}};
   for (const auto& [cByte, iValue] : aRows) {
-    platform.OnReply = [cByte](QByteArray& report) { report[4] = cByte; };
+    rig.OnReply = [cByte](QByteArray& report) { report[4] = cByte; };
     EXPECT_EQ(ReadAnalogPort(), iValue);
     EXPECT_EQ(iUsbAnalog, iValue);
   }

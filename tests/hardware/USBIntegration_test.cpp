@@ -41,7 +41,7 @@ class UsbExchange : public testing::Test {
   }
 
   void ReplyWith(const QByteArray& report) {
-    platform.OnReply = [report](QByteArray& bytes) { bytes = report; };
+    rig.OnReply = [report](QByteArray& bytes) { bytes = report; };
   }
 };
 
@@ -115,7 +115,7 @@ TEST_F(UsbExchange, DropsTheReplyToSetOutput) {
   rig.lInput = 0x2A;
   UsbWriteOutput(0x1F);
   EXPECT_EQ(UsbReadInput(), 0x2A);
-  EXPECT_EQ(platform.aReadHandles.size(), 2u);
+  EXPECT_EQ(rig.aReadHandles.size(), 2u);
 }
 
 TEST_F(UsbExchange, MakesAnExchangeOfItsOwnForTheAnalogByte) {
@@ -156,7 +156,7 @@ TEST_F(UsbExchange, DoesNothingBehindAClose) {
 TEST_F(UsbExchange, ReleasesTheOldObjectBeforeItOpensANewOne) {
   Open();
   size_t iOpen = 99;
-  platform.OnEnumerate = [&] { iOpen = rig.aOpenHandles.size(); };
+  rig.OnEnumerate = [&] { iOpen = rig.aOpenHandles.size(); };
   EXPECT_TRUE(UsbOpenAdapter());
   EXPECT_EQ(iOpen, 0u);
   EXPECT_EQ(rig.aOpenHandles.size(), 2u);

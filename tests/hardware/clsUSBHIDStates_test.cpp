@@ -36,7 +36,7 @@ class UsbHidLife : public testing::Test {
   void OpenWithReply() {
     ASSERT_TRUE(device.WriteReport("x"));
     ASSERT_EQ(rig.aOpenHandles.size(), 2u);
-    platform.aOpenedPaths.clear();
+    rig.aOpenedPaths.clear();
     rig.iEnumerations = 0;
   }
 
@@ -80,8 +80,8 @@ TEST_P(UsbHidStates, NewStaysClosedWithoutADevice) {
   Act();
   EXPECT_EQ(rig.iEnumerations, 1);
   EXPECT_EQ(rig.iHandlesOpened, 0);
-  EXPECT_TRUE(platform.aWriteHandles.empty());
-  EXPECT_TRUE(platform.aReadHandles.empty());
+  EXPECT_TRUE(rig.aWriteHandles.empty());
+  EXPECT_TRUE(rig.aReadHandles.empty());
 }
 
 TEST_P(UsbHidStates, OpenIsOpenedAfreshByTheQuestionAlone) {
@@ -96,7 +96,7 @@ TEST_P(UsbHidStates, OpenIsOpenedAfreshByTheQuestionAlone) {
 TEST_P(UsbHidStates, StaleClosesItsHandlesBeforeItLooksForTheDevice) {
   GoStale();
   size_t iOpen = 99;
-  platform.OnEnumerate = [&] { iOpen = rig.aOpenHandles.size(); };
+  rig.OnEnumerate = [&] { iOpen = rig.aOpenHandles.size(); };
   Act();
   EXPECT_EQ(iOpen, 0u);
   EXPECT_EQ(rig.iEnumerations, 1);
@@ -158,11 +158,11 @@ TEST_F(UsbHidLife, RefusedWriteLeavesItOpen) {
 
 TEST_F(UsbHidLife, WithoutAReadHandleItWritesAndReadsNothing) {
   int iOpenings = 0;
-  platform.MayOpen = [&] { return ++iOpenings != 2; };
+  rig.MayOpen = [&] { return ++iOpenings != 2; };
   EXPECT_TRUE(device.bDeviceConnected());
   EXPECT_TRUE(device.WriteReport("x"));
   EXPECT_FALSE(device.ReadReport().has_value());
-  EXPECT_TRUE(platform.aReadHandles.empty());
+  EXPECT_TRUE(rig.aReadHandles.empty());
   EXPECT_EQ(rig.iEnumerations, 1);
 }
 
@@ -203,8 +203,8 @@ class UsbHidMute : public UsbHidLife {
 TEST_F(UsbHidMute, ExchangesNothing) {
   EXPECT_FALSE(device.WriteReport("x"));
   EXPECT_FALSE(device.ReadReport().has_value());
-  EXPECT_TRUE(platform.aWriteHandles.empty());
-  EXPECT_TRUE(platform.aReadHandles.empty());
+  EXPECT_TRUE(rig.aWriteHandles.empty());
+  EXPECT_TRUE(rig.aReadHandles.empty());
   EXPECT_EQ(rig.aOpenHandles.size(), 2u);
 }
 

@@ -88,7 +88,7 @@ TEST_F(UsbHid, TakesTheFirstDeviceThatMatches) {
   rig.aDevices = {Hid("other", {1, 2, 3}), Hid("first"), Hid("second")};
   clsUSBHID device;
   EXPECT_TRUE(device.bDeviceConnected());
-  EXPECT_THAT(platform.aOpenedPaths, ElementsAre("first", "first"));
+  EXPECT_THAT(rig.aOpenedPaths, ElementsAre("first", "first"));
 }
 
 TEST_F(UsbHid, OpensOnlyWhatIsListedAsTheWantedDevice) {
@@ -97,17 +97,17 @@ TEST_F(UsbHid, OpensOnlyWhatIsListedAsTheWantedDevice) {
   clsUSBHID device;
   device.iVersionNumber = 0x0100;
   EXPECT_TRUE(device.bDeviceConnected());
-  EXPECT_THAT(platform.aOpenedPaths, ElementsAre("version", "first", "first"));
+  EXPECT_THAT(rig.aOpenedPaths, ElementsAre("version", "first", "first"));
 }
 
 TEST_F(UsbHid, SkipsADeviceThatIsAnotherOnceItIsOpen) {
   rig.aDevices = {Hid("changing"), Hid("second")};
-  platform.OnOpen = [&](const QByteArray& path) {
+  rig.OnOpen = [&](const QByteArray& path) {
     if (path == "changing") rig.aDevices[0].attributes.iProductID = 1;
   };
   clsUSBHID device;
   EXPECT_TRUE(device.bDeviceConnected());
-  EXPECT_THAT(platform.aOpenedPaths, ElementsAre("changing", "second", "second"));
+  EXPECT_THAT(rig.aOpenedPaths, ElementsAre("changing", "second", "second"));
   EXPECT_EQ(rig.aOpenHandles.size(), 2u);
 }
 
@@ -115,14 +115,14 @@ TEST_F(UsbHid, TakesADeviceOnceThatIsListedTwice) {
   rig.aDevices = {Hid("first"), Hid("first")};
   clsUSBHID device;
   EXPECT_TRUE(device.bDeviceConnected());
-  EXPECT_THAT(platform.aOpenedPaths, ElementsAre("first", "first"));
+  EXPECT_THAT(rig.aOpenedPaths, ElementsAre("first", "first"));
   EXPECT_EQ(rig.aOpenHandles.size(), 2u);
 }
 
 TEST_F(UsbHid, ClosesTheHandleOfADeviceItSkips) {
   rig.aDevices = {Hid("old", {3326, 67, 0x0200}), Hid("first", {3326, 67, 0x0100})};
   size_t iOpenAtSecond = 99;
-  platform.OnOpen = [&](const QByteArray& path) {
+  rig.OnOpen = [&](const QByteArray& path) {
     if (path == "first" && iOpenAtSecond == 99) iOpenAtSecond = rig.aOpenHandles.size();
   };
   clsUSBHID device;
@@ -138,7 +138,7 @@ TEST_F(UsbHid, SkipsADeviceThatIsLocked) {
   rig.aDevices[0].mood = HidMood::Locked;
   clsUSBHID device;
   EXPECT_TRUE(device.bDeviceConnected());
-  EXPECT_THAT(platform.aOpenedPaths, ElementsAre("locked", "second", "second"));
+  EXPECT_THAT(rig.aOpenedPaths, ElementsAre("locked", "second", "second"));
 }
 
 TEST_F(UsbHid, IsNotConnectedWhenTheOnlyDeviceIsLocked) {
@@ -153,12 +153,12 @@ TEST_F(UsbHid, IsNotConnectedWhenTheOnlyDeviceIsLocked) {
 
 TEST_F(UsbHid, SkipsADeviceThatGoesBetweenListingAndOpening) {
   rig.aDevices = {Hid("going"), Hid("second")};
-  platform.OnOpen = [&](const QByteArray& path) {
+  rig.OnOpen = [&](const QByteArray& path) {
     if (path == "going") rig.aDevices[0].mood = HidMood::Vanished;
   };
   clsUSBHID device;
   EXPECT_TRUE(device.bDeviceConnected());
-  EXPECT_THAT(platform.aOpenedPaths, ElementsAre("going", "second", "second"));
+  EXPECT_THAT(rig.aOpenedPaths, ElementsAre("going", "second", "second"));
 }
 
 TEST_F(UsbHid, HoldsOnToTheVersionThatItAcceptedFirst) {
@@ -226,12 +226,12 @@ TEST_F(UsbHid, ReadsOneByteLessThanTheDeclaredLength) {
   const auto reply = device.ReadReport();
   ASSERT_TRUE(reply.has_value());
   EXPECT_EQ(reply->size(), 64);
-  EXPECT_THAT(platform.aReadLengths, ElementsAre(65));
+  EXPECT_THAT(rig.aReadLengths, ElementsAre(65));
 }
 
 TEST_F(UsbHid, TakesTheReportIdOffAReport) {
   AttachWithLengths(5, 65);
-  platform.OnReply = [](QByteArray& report) { report = QByteArray("\x00\x11\x22\x33\x44", 5); };
+  rig.OnReply = [](QByteArray& report) { report = QByteArray("\x00\x11\x22\x33\x44", 5); };
   clsUSBHID device;
   device.WriteReport("x");
   EXPECT_EQ(device.ReadReport(), QByteArray("\x11\x22\x33\x44"));
@@ -251,7 +251,7 @@ TEST_F(UsbHid, ReadsNothingFromADeviceWithoutInputReports) {
   clsUSBHID device;
   EXPECT_TRUE(device.WriteReport("x"));
   EXPECT_FALSE(device.ReadReport().has_value());
-  EXPECT_TRUE(platform.aReadHandles.empty());
+  EXPECT_TRUE(rig.aReadHandles.empty());
 }
 
 TEST_F(UsbHid, WritesOnOneHandleAndReadsOnTheOther) {
@@ -259,9 +259,9 @@ TEST_F(UsbHid, WritesOnOneHandleAndReadsOnTheOther) {
   clsUSBHID device;
   device.WriteReport("x");
   device.ReadReport();
-  ASSERT_EQ(platform.aWriteHandles.size(), 1u);
-  ASSERT_EQ(platform.aReadHandles.size(), 1u);
-  EXPECT_NE(platform.aWriteHandles[0], platform.aReadHandles[0]);
+  ASSERT_EQ(rig.aWriteHandles.size(), 1u);
+  ASSERT_EQ(rig.aReadHandles.size(), 1u);
+  EXPECT_NE(rig.aWriteHandles[0], rig.aReadHandles[0]);
 }
 
 TEST_F(UsbHid, WaitsOneSecondForAReport) {
@@ -272,7 +272,7 @@ TEST_F(UsbHid, WaitsOneSecondForAReport) {
   const qint64 lStart = platform.lNow;
   EXPECT_FALSE(device.ReadReport().has_value());
   EXPECT_EQ(platform.lNow - lStart, 1000);
-  EXPECT_THAT(platform.aReadTimeOuts, ElementsAre(1000));
+  EXPECT_THAT(rig.aReadTimeOuts, ElementsAre(1000));
 }
 
 }  // namespace

@@ -145,20 +145,20 @@ TEST_F(LinuxPathsTest, CommandLineNamesFilesFromTheRoot) {
   const QString sFile = LinuxPaths::Station(QDir::currentPath()) + "\\H\\a.gtp";
   for (const QString& sArgument :
        {folder.Path("H/a.gtp"), QString("H/a.gtp"), QString("./H/../H/a.gtp")}) {
-    EXPECT_EQ(CommandLine({"glidetrak", sArgument}), sFile) << sArgument.toStdString();
+    EXPECT_EQ(CommandLineText({"glidetrak", sArgument}), sFile) << sArgument.toStdString();
   }
 }
 
 TEST_F(LinuxPathsTest, CommandLineQuotesFilesWithBlanks) {
   const QString sFile = LinuxPaths::Station(QDir::currentPath()) + "\\Examples\\Trip One.gtp";
-  EXPECT_EQ(CommandLine({"glidetrak", "Examples/Trip One.gtp"}), '"' + sFile + '"');
+  EXPECT_EQ(CommandLineText({"glidetrak", "Examples/Trip One.gtp"}), '"' + sFile + '"');
 }
 
 TEST_F(LinuxPathsTest, CommandLineLeavesEverythingElseAsItIs) {
-  EXPECT_EQ(CommandLine({"glidetrak"}), "");
-  EXPECT_EQ(CommandLine({"glidetrak", "/DEBUGMODE", "/LANG='2'", "nothing.gtp"}),
+  EXPECT_EQ(CommandLineText({"glidetrak"}), "");
+  EXPECT_EQ(CommandLineText({"glidetrak", "/DEBUGMODE", "/LANG='2'", "nothing.gtp"}),
             "/DEBUGMODE /LANG='2' nothing.gtp");
-  EXPECT_EQ(CommandLine({"same.GTP"}), "");
+  EXPECT_EQ(CommandLineText({"same.GTP"}), "");
 }
 
 /// What start-up makes of an argument, as a native path from the folder on; "" for none.
@@ -166,7 +166,7 @@ QString Opened(const QString& sArgument) {
   LinuxMachine machine;
   pMachine = &machine;
   sCommandLineFile.clear();
-  ParseCommandLine(CommandLine({"glidetrak", sArgument}));
+  ParseCommandLine(CommandLineText({"glidetrak", sArgument}));
   const QString sNative =
       sCommandLineFile.isEmpty() ? QString() : machine.NativePath(sCommandLineFile);
   pMachine = nullptr;
@@ -202,7 +202,7 @@ TEST_F(LinuxPathsTest, FileInAFolderOfTheSwitchesNameIsFoundThroughTheCommandLin
   LinuxMachine machine;
   pMachine = &machine;
   for (const char* sName : {"H/a.gtp", "Examples/Trip One.gtp"}) {
-    ParseCommandLine(CommandLine({"glidetrak", "/DEBUGMODE", sName}));
+    ParseCommandLine(CommandLineText({"glidetrak", "/DEBUGMODE", sName}));
     EXPECT_FALSE(sCommandLineFile.isEmpty()) << sName;
     EXPECT_EQ(machine.NativePath(sCommandLineFile), QDir::currentPath() + '/' + sName);
   }

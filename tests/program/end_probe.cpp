@@ -10,6 +10,7 @@
 #include "common/SharedState.h"
 #include "hardware/AdapterLayer.h"
 #include "platform/ProcessEnd.h"
+#include "platform/linux/LinuxHid.h"
 #include "platform/linux/LinuxMachine.h"
 
 namespace {
@@ -25,7 +26,9 @@ void LeaveBy(std::string_view sRoad) {
 int main(int argc, char** argv) {
   QCoreApplication application(argc, argv);
   glidetrak::LinuxMachine machine;
+  glidetrak::LinuxHid hid;
   glidetrak::pMachine = &machine;
+  glidetrak::pHid = &hid;
   const std::string_view sRoad = argc > 1 ? argv[1] : "";
   glidetrak::WatchProcessEnd({[] {}, glidetrak::StopRigAtEnd, glidetrak::StopRigInCrash});
   if (!glidetrak::CheckHardware()) return 2;

@@ -22,6 +22,10 @@ namespace glidetrak {
 
 class NotingPlatform : public VirtualPlatform {
  public:
+  NotingPlatform() {
+    rig.OnEnumerate = [this] { Call("HidDevices"); };
+  }
+
   /// Names of the calls below that fail.
   std::set<std::string> aFailing;
   std::vector<QString> aRead;     ///< "U name" or "M name"
@@ -51,10 +55,6 @@ class NotingPlatform : public VirtualPlatform {
   std::optional<PixelRect> NormalRect() override {
     Call("NormalRect");
     return VirtualPlatform::NormalRect();
-  }
-  std::vector<HidListing> HidDevices() override {
-    Call("HidDevices");
-    return VirtualPlatform::HidDevices();
   }
   QString ReadSetting(Scope scope, const QString& sKey, const QString& sName) override {
     aRead.push_back(Mark(scope) + sName);

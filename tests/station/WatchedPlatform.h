@@ -1,10 +1,9 @@
 #pragma once
 
-// The virtual platform with hooks at those calls of the machine that a rig's test watches or
-// disturbs.
+// The virtual platform with hooks at the clock and at the parallel library, which a rig's test
+// watches or disturbs. Those of the HID devices are VirtualRig's own.
 
 #include <map>
-#include <vector>
 
 #include "virtual/VirtualPlatform.h"
 
@@ -12,25 +11,11 @@ namespace glidetrak {
 
 class WatchedPlatform : public VirtualPlatform {
  public:
-  /// Ahead of each search for HID devices, of each opening and of each call of the library.
-  std::function<void()> OnEnumerate;
-  std::function<void(const QByteArray&)> OnOpen;
+  /// Ahead of each call of the library.
   std::function<void(const QByteArray&)> OnCall;
-
-  /// False where a device cannot be opened this time; empty where all can.
-  std::function<bool()> MayOpen;
-
-  /// Changes an input report that a read has just brought; its first byte is the report id.
-  std::function<void(QByteArray&)> OnReply;
 
   /// What these operations of the library return, whatever the rig would.
   std::map<QByteArray, qint32> aResults;
-
-  std::vector<QByteArray> aOpenedPaths;  ///< of each attempt to open
-  std::vector<qint32> aWriteHandles;     ///< of each report written
-  std::vector<qint32> aReadHandles;      ///< of each read
-  std::vector<qint32> aReadTimeOuts;     ///< of each read, in milliseconds
-  std::vector<qsizetype> aReadLengths;   ///< of each read's buffer
 
   int iClockReads = 0;
   int iFailingClockRead = -1;  ///< the reading, counted from 1, that raises an error
@@ -40,31 +25,6 @@ class WatchedPlatform : public VirtualPlatform {
     if (++iClockReads == iFailingClockRead) throw RuntimeError(Fault::PlatformCall);
     if (OnClockRead) OnClockRead();
     return VirtualPlatform::GetTickCount();
-  }
-
-  std::vector<HidListing> HidDevices() override {
-    if (OnEnumerate) OnEnumerate();
-    return VirtualPlatform::HidDevices();
-  }
-
-  qint32 HidOpen(const QByteArray& path) override {
-    aOpenedPaths.push_back(path);
-    if (OnOpen) OnOpen(path);
-    return MayOpen && !MayOpen() ? 0 : VirtualPlatform::HidOpen(path);
-  }
-
-  qint32 HidWrite(qint32 lHandle, const QByteArray& report) override {
-    aWriteHandles.push_back(lHandle);
-    return VirtualPlatform::HidWrite(lHandle, report);
-  }
-
-  HidReadResult HidRead(qint32 lHandle, qint32 lTimeOut, QByteArray& report) override {
-    aReadHandles.push_back(lHandle);
-    aReadTimeOuts.push_back(lTimeOut);
-    aReadLengths.push_back(report.size());
-    const HidReadResult result = VirtualPlatform::HidRead(lHandle, lTimeOut, report);
-    if (result == HidReadResult::Success && OnReply) OnReply(report);
-    return result;
   }
 
   qint32 CallTrackport(const char* sOperation, std::initializer_list<qint32> arguments) override {

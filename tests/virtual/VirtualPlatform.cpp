@@ -29,6 +29,7 @@ PixelRect FormRect() {
 
 VirtualPlatform::VirtualPlatform() {
   pMachine = this;
+  pHid = &rig;
   pDesktop = this;
   ResetForms();
   for (Form* pForm : {&frmGlidetrak, &frmAbout}) {
@@ -52,8 +53,9 @@ void VirtualPlatform::WatchWindow() {
 }
 
 VirtualPlatform::~VirtualPlatform() {
-  UsbCloseAdapter();  // the device object must not outlive the machine that it closes itself on
+  UsbCloseAdapter();  // the device object must not outlive the rig on which it closes itself
   pMachine = nullptr;
+  pHid = nullptr;
   pDesktop = nullptr;
 }
 

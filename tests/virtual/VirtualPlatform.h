@@ -32,7 +32,8 @@ struct VirtualBox {
 
 class VirtualPlatform : public Machine, public Desktop {
  public:
-  /// Becomes pMachine and pDesktop. The forms are reset first, so that the timers start anew.
+  /// Becomes pMachine and pDesktop, its rig becomes pHid. The forms are reset first, so that the
+  /// timers start anew.
   VirtualPlatform();
   ~VirtualPlatform() override;
 
@@ -97,6 +98,7 @@ class VirtualPlatform : public Machine, public Desktop {
   QByteArray ReadFile(const QString& sPath) override;
   void WriteFile(const QString& sPath, const QByteArray& bytes) override;
   void DeleteFile(const QString& sPath) override;
+  QString CommandLine() override { return {}; }
   QString ExecutableFolder() override { return sExecutableFolder; }
   void SetCurrentFolder(const QString& sPath) override { sCurrentFolder = sPath; }
   QString NativePath(const QString& sStationPath) override { return sStationPath; }
@@ -114,23 +116,6 @@ class VirtualPlatform : public Machine, public Desktop {
                                            const QString& sName) override;
   int UserDefaultLanguage() override;
   QString LongTime() override;
-  std::vector<HidListing> HidDevices() override { return rig.Devices(); }
-  qint32 HidOpen(const QByteArray& path) override { return rig.Open(path); }
-  void HidClose(qint32 lHandle) override { rig.Close(lHandle); }
-  bool GetHidAttributes(qint32 lHandle, HidAttributes& attributes) override {
-    return rig.Attributes(lHandle, attributes);
-  }
-  bool GetHidReportLengths(qint32 lHandle, HidReportLengths& lengths) override {
-    return rig.ReportLengths(lHandle, lengths);
-  }
-  void HidDropInput(qint32 lHandle) override { rig.DropInput(lHandle); }
-  qint32 HidWrite(qint32 lHandle, const QByteArray& report) override {
-    return rig.Write(lHandle, report);
-  }
-  HidReadResult HidRead(qint32 lHandle, qint32 lTimeOut, QByteArray& report) override {
-    return rig.Read(lHandle, lTimeOut, report);
-  }
-  QString HidErrorText() override { return {}; }
   qint32 CallTrackport(const char* sOperation, std::initializer_list<qint32> arguments) override;
 
   void PumpEvents() override;

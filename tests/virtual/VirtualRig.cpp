@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "platform/RuntimeError.h"
+
 namespace glidetrak {
 
 namespace {
@@ -72,6 +74,7 @@ qint32 VirtualRig::Call(const QByteArray& operation, std::initializer_list<qint3
 }
 
 std::vector<HidListing> VirtualRig::Devices() {
+  if (OnEnumerate) OnEnumerate();
   ++iEnumerations;
   std::vector<HidListing> aListed;
   for (const VirtualHid& device : aDevices) {
@@ -82,6 +85,9 @@ std::vector<HidListing> VirtualRig::Devices() {
 }
 
 qint32 VirtualRig::Open(const QByteArray& path) {
+  aOpenedPaths.push_back(path);
+  if (OnOpen) OnOpen(path);
+  if (MayOpen && !MayOpen()) return 0;
   const auto device = std::find_if(aDevices.begin(), aDevices.end(),
                                    [&](const VirtualHid& d) { return d.path == path; });
   if (device == aDevices.end()) return 0;
@@ -167,6 +173,7 @@ void VirtualRig::DropInput(qint32 lHandle) {
 }
 
 qint32 VirtualRig::Write(qint32 lHandle, const QByteArray& report) {
+  aWriteHandles.push_back(lHandle);
   const VirtualHid* pDevice = DeviceOf(lHandle);
   if (pDevice == nullptr) return 0;
   aReports.push_back(report);
@@ -187,12 +194,16 @@ bool VirtualRig::WaitForReport(qint32 lHandle, qint64 lEnd) {
 }
 
 HidReadResult VirtualRig::Read(qint32 lHandle, qint32 lTimeOut, QByteArray& report) {
+  aReadHandles.push_back(lHandle);
+  aReadTimeOuts.push_back(lTimeOut);
+  aReadLengths.push_back(report.size());
   if (DeviceOf(lHandle) == nullptr) return HidReadResult::Failed;
   if (!WaitForReport(lHandle, *m_pNow + lTimeOut)) return HidReadResult::TimeOut;
   const QByteArray reply = m_aQueues[lHandle].front();
   m_aQueues[lHandle].pop_front();
   const qsizetype iCount = std::min(reply.size(), report.size());
   std::copy_n(reply.begin(), iCount, report.begin());
+  if (OnReply) OnReply(report);
   return HidReadResult::Success;
 }
 

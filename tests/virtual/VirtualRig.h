@@ -11,7 +11,7 @@
 #include <set>
 #include <vector>
 
-#include "platform/Platform.h"
+#include "platform/Hid.h"
 
 namespace glidetrak {
 
@@ -37,7 +37,7 @@ struct VirtualHid {
   bool bTellsLengths = true;  ///< its report lengths can be learnt
 };
 
-class VirtualRig {
+class VirtualRig : public Hid {
  public:
   /// The virtual clock, which a read that times out moves on.
   explicit VirtualRig(qint64* pNow) : m_pNow(pNow) {}
@@ -62,6 +62,20 @@ class VirtualRig {
   int iHandlesOpened = 0;            ///< by the station and by whoever else calls Open
   std::vector<QByteArray> aReports;  ///< each output report, the report id first
 
+  std::vector<QByteArray> aOpenedPaths;  ///< of each attempt to open
+  std::vector<qint32> aWriteHandles;     ///< of each report written
+  std::vector<qint32> aReadHandles;      ///< of each read
+  std::vector<qint32> aReadTimeOuts;     ///< of each read, in milliseconds
+  std::vector<qsizetype> aReadLengths;   ///< of each read's buffer
+
+  /// Ahead of each search for devices and of each opening.
+  std::function<void()> OnEnumerate;
+  std::function<void(const QByteArray&)> OnOpen;
+  /// False where a device cannot be opened this time; empty where all can.
+  std::function<bool()> MayOpen;
+  /// Changes an input report that a read has just brought; its first byte is the report id.
+  std::function<void(QByteArray&)> OnReply;
+
   // What reached the rig.
   std::vector<WrittenByte> aWritten;
   std::function<void(qint32)> OnWrite;
@@ -76,14 +90,15 @@ class VirtualRig {
   /// The devices send a report for which nobody has asked; the report id first.
   void SendInput(const QByteArray& report);
 
-  std::vector<HidListing> Devices();
-  qint32 Open(const QByteArray& path);
-  void Close(qint32 lHandle);
-  bool Attributes(qint32 lHandle, HidAttributes& attributes);
-  bool ReportLengths(qint32 lHandle, HidReportLengths& lengths);
-  void DropInput(qint32 lHandle);
-  qint32 Write(qint32 lHandle, const QByteArray& report);
-  HidReadResult Read(qint32 lHandle, qint32 lTimeOut, QByteArray& report);
+  std::vector<HidListing> Devices() override;
+  qint32 Open(const QByteArray& path) override;
+  void Close(qint32 lHandle) override;
+  bool Attributes(qint32 lHandle, HidAttributes& attributes) override;
+  bool ReportLengths(qint32 lHandle, HidReportLengths& lengths) override;
+  void DropInput(qint32 lHandle) override;
+  qint32 Write(qint32 lHandle, const QByteArray& report) override;
+  HidReadResult Read(qint32 lHandle, qint32 lTimeOut, QByteArray& report) override;
+  QString ErrorText() override { return {}; }
 
  private:
   void Record(qint32 lByte);

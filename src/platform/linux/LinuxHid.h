@@ -6,24 +6,26 @@
 
 #include <map>
 
-#include "platform/Platform.h"
+#include "platform/Hid.h"
 
 namespace glidetrak {
 
-class LinuxHid {
+class LinuxHid : public Hid {
  public:
-  ~LinuxHid();
+  LinuxHid() = default;
+  ~LinuxHid() override;
+  LinuxHid(const LinuxHid&) = delete;
+  LinuxHid& operator=(const LinuxHid&) = delete;
 
-  // As in Machine.
-  std::vector<HidListing> Devices();
-  qint32 Open(const QByteArray& path);
-  void Close(qint32 lHandle);
-  bool Attributes(qint32 lHandle, HidAttributes& attributes);
-  bool ReportLengths(qint32 lHandle, HidReportLengths& lengths);
-  void DropInput(qint32 lHandle);
-  qint32 Write(qint32 lHandle, const QByteArray& report);
-  HidReadResult Read(qint32 lHandle, qint32 lTimeOut, QByteArray& report);
-  QString ErrorText();
+  std::vector<HidListing> Devices() override;
+  qint32 Open(const QByteArray& path) override;
+  void Close(qint32 lHandle) override;
+  bool Attributes(qint32 lHandle, HidAttributes& attributes) override;
+  bool ReportLengths(qint32 lHandle, HidReportLengths& lengths) override;
+  void DropInput(qint32 lHandle) override;
+  qint32 Write(qint32 lHandle, const QByteArray& report) override;
+  HidReadResult Read(qint32 lHandle, qint32 lTimeOut, QByteArray& report) override;
+  QString ErrorText() override;
 
  private:
   struct Device {

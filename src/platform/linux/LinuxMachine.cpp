@@ -116,6 +116,10 @@ void LinuxMachine::DeleteFile(const QString& sPath) {
   m_aDeletedModes.insert(sNative, info.st_mode & 07777);
 }
 
+QString LinuxMachine::CommandLine() {
+  return CommandLineText(QCoreApplication::arguments());
+}
+
 QString LinuxMachine::ExecutableFolder() {
   return StationPath(QCoreApplication::applicationDirPath());
 }

@@ -10,7 +10,6 @@
 
 #include "platform/ConfigurationText.h"
 #include "platform/Platform.h"
-#include "platform/linux/LinuxHid.h"
 #include "platform/linux/LinuxInstance.h"
 #include "platform/linux/LinuxPaths.h"
 
@@ -28,6 +27,7 @@ class LinuxMachine : public Machine {
   QByteArray ReadFile(const QString& sPath) override;
   void WriteFile(const QString& sPath, const QByteArray& bytes) override;
   void DeleteFile(const QString& sPath) override;
+  QString CommandLine() override;
   QString ExecutableFolder() override;
   void SetCurrentFolder(const QString& sPath) override;
   QString NativePath(const QString& sStationPath) override { return m_paths.Native(sStationPath); }
@@ -45,23 +45,6 @@ class LinuxMachine : public Machine {
                                            const QString& sName) override;
   int UserDefaultLanguage() override;
   QString LongTime() override;
-  std::vector<HidListing> HidDevices() override { return m_hid.Devices(); }
-  qint32 HidOpen(const QByteArray& path) override { return m_hid.Open(path); }
-  void HidClose(qint32 lHandle) override { m_hid.Close(lHandle); }
-  bool GetHidAttributes(qint32 lHandle, HidAttributes& attributes) override {
-    return m_hid.Attributes(lHandle, attributes);
-  }
-  bool GetHidReportLengths(qint32 lHandle, HidReportLengths& lengths) override {
-    return m_hid.ReportLengths(lHandle, lengths);
-  }
-  void HidDropInput(qint32 lHandle) override { m_hid.DropInput(lHandle); }
-  qint32 HidWrite(qint32 lHandle, const QByteArray& report) override {
-    return m_hid.Write(lHandle, report);
-  }
-  HidReadResult HidRead(qint32 lHandle, qint32 lTimeOut, QByteArray& report) override {
-    return m_hid.Read(lHandle, lTimeOut, report);
-  }
-  QString HidErrorText() override { return m_hid.ErrorText(); }
   qint32 CallTrackport(const char* sOperation, std::initializer_list<qint32> arguments) override;
 
  private:
@@ -88,7 +71,6 @@ class LinuxMachine : public Machine {
   QHash<QString, mode_t> m_aDeletedModes;  ///< of files deleted and not rewritten, by native path
   ConfigurationText m_configuration;       ///< of the file of m_configurationStamp
   ReadStamp m_configurationStamp;
-  LinuxHid m_hid;
   LinuxInstance m_instance;
   QLibrary m_trackport;  ///< libtrackport32.so beside the executable, loaded at its first call
   std::vector<Operation> m_aOperations;  ///< those that were called

@@ -101,7 +101,7 @@ bool LinuxPaths::IsName(const QString& sStationPath) {
   });
 }
 
-QString CommandLine(const QStringList& aArguments) {
+QString CommandLineText(const QStringList& aArguments) {
   QStringList aTexts;
   for (const QString& sArgument : aArguments.mid(1)) aTexts.append(ArgumentText(sArgument));
   return aTexts.join(u' ');

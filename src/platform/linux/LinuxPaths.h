@@ -13,7 +13,7 @@
 namespace glidetrak {
 
 /// The files that the command line named, which the station takes in upper case: station path
-/// without its case to native path. Filled by CommandLine.
+/// without its case to native path. Filled by CommandLineText.
 inline QHash<QString, QString> aNamedFiles;
 
 class LinuxPaths {
@@ -42,6 +42,6 @@ class LinuxPaths {
 /// The arguments behind the program's name as one raw text. One that names a file becomes a
 /// station path from the root, in double quotes when it holds a blank; a relative one means the
 /// folder in which the command was typed. That path, upper-cased or not, stays that file's.
-QString CommandLine(const QStringList& aArguments);
+QString CommandLineText(const QStringList& aArguments);
 
 }  // namespace glidetrak

@@ -4,7 +4,7 @@
 
 #include <QByteArray>
 
-#include "platform/Platform.h"
+#include "platform/Hid.h"
 
 namespace glidetrak {
 

@@ -9,6 +9,7 @@
 #include "HidFile.h"
 #include "hardware/USBIntegration.h"
 #include "hardware/clsUSBHID.h"
+#include "platform/linux/LinuxHid.h"
 #include "platform/linux/LinuxMachine.h"
 #include "virtual/VirtualPlatform.h"
 
@@ -27,10 +28,14 @@ inline QByteArray SetOutput(char cByte, int iLength = 19) {
 /// Boxes and the form stand on the virtual platform; the machine below is the real one.
 class StationHid : public testing::Test {
  protected:
-  StationHid() { pMachine = &m_machine; }
+  StationHid() {
+    pMachine = &m_machine;
+    pHid = &m_devices;
+  }
   ~StationHid() override {
     UsbCloseAdapter();
     pMachine = &m_desktop;
+    pHid = &m_desktop.rig;
   }
 
   void Plug(bench::UhidConfig config = {}) {
@@ -50,6 +55,7 @@ class StationHid : public testing::Test {
   bench::LiveRig m_rig;
   VirtualPlatform m_desktop;
   LinuxMachine m_machine;
+  LinuxHid m_devices;
   std::optional<bench::UhidDevice> m_device;
   clsUSBHID m_hid;
 };

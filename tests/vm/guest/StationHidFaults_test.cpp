@@ -148,18 +148,18 @@ TEST_F(StationHidFaults, ADeviceFoundWithoutItsDescriptorIsReadOnceItCanBe) {
 
 TEST_F(StationHidFaults, TheMachineTellsNoReportLengthsOfADeviceThatIsGone) {
   Plug();
-  const qint32 lHandle = m_machine.HidOpen(m_machine.HidDevices().at(0).path);
+  const qint32 lHandle = m_devices.Open(m_devices.Devices().at(0).path);
   HidReportLengths lengths{7, 8};
-  EXPECT_TRUE(m_machine.GetHidReportLengths(lHandle, lengths));
+  EXPECT_TRUE(m_devices.ReportLengths(lHandle, lengths));
   EXPECT_EQ(lengths.iInput, 65);
   m_device->Unplug();
   ASSERT_TRUE(WaitForDevices(0));
   lengths = {7, 8};
-  EXPECT_FALSE(m_machine.GetHidReportLengths(lHandle, lengths));
+  EXPECT_FALSE(m_devices.ReportLengths(lHandle, lengths));
   EXPECT_EQ(lengths.iInput, 7);
   EXPECT_EQ(lengths.iOutput, 8);
-  m_machine.HidDropInput(lHandle);
-  m_machine.HidClose(lHandle);
+  m_devices.DropInput(lHandle);
+  m_devices.Close(lHandle);
 }
 
 }  // namespace
