@@ -26,6 +26,7 @@
 #include "shell/Events.h"
 #include "shell/StartUp.h"
 #include "view/View.h"
+#include "view/ViewDesktop.h"
 
 namespace {
 

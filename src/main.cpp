@@ -14,6 +14,7 @@
 #include "shell/StartUp.h"
 #include "view/MainWindow.h"
 #include "view/View.h"
+#include "view/ViewDesktop.h"
 
 int main(int argc, char** argv) {
   QApplication application(argc, argv);

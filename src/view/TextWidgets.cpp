@@ -7,7 +7,7 @@
 #include "form/frmGlidetrak.h"
 #include "view/EventRelay.h"
 #include "view/Observe.h"
-#include "view/ProgramEditor.h"
+#include "view/TextBoxWidget.h"
 #include "view/TextColours.h"
 #include "view/Units.h"
 
@@ -32,7 +32,7 @@ QWidget* MakeLine(TextBox& box, QWidget* pParent) {
 }
 
 QWidget* MakeEditor(TextBox& box, const QFont& font, QWidget* pParent) {
-  auto* pWidget = new ProgramEditor(box, pParent);
+  auto* pWidget = new TextBoxWidget(box, pParent);
   pWidget->setTabStopDistance(iTabColumns * QFontMetrics(font).horizontalAdvance(u' '));
   if (&box == &txtProgram) pWidget->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
   RelayKeys(pWidget, box);

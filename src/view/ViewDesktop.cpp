@@ -1,3 +1,5 @@
+#include "view/ViewDesktop.h"
+
 #include <QApplication>
 #include <QScreen>
 
@@ -6,7 +8,6 @@
 #include "view/MessageBoxes.h"
 #include "view/Monitors.h"
 #include "view/Units.h"
-#include "view/View.h"
 
 namespace glidetrak {
 

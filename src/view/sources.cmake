@@ -21,9 +21,9 @@ set(VIEW_SOURCES
   view/PictureStore.cpp
   view/PictureWidget.cpp
   view/Pointers.cpp
-  view/ProgramEditor.cpp
   view/RunKeys.cpp
   view/SessionEnd.cpp
+  view/TextBoxWidget.cpp
   view/TextColours.cpp
   view/TextWidgets.cpp
   view/Timers.cpp

@@ -20,7 +20,7 @@ using WindowHeaders = std::set<QString>;
 
 // Each rule gives its violations as "path:line: what is wrong", none for a file that keeps it.
 
-/// A room includes rooms below it and itself, never one beside or above.
+/// A room includes itself and those below it that its row names, never one beside or above.
 QStringList RoomViolations(const SourceFile& file);
 
 /// Nobody but the view knows a window toolkit; main.cpp may start the application.

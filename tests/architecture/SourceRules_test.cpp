@@ -20,7 +20,8 @@ const IncludeRow IncludesAllowed[] = {
     {"platform/linux/LinuxMachine.h", "#include \"platform/Platform.h\""},
     {"strings/ResourceStrings.cpp", "#include \"../data/strings/English.inc\""},
     {"main.cpp", "#include \"view/View.h\""},
-    {"view/View.cpp", "#include \"shell/Events.h\""},
+    {"main.cpp", "#include \"shell/Events.h\""},
+    {"view/View.cpp", "#include \"strings/ResourceText.h\""},
     {"track/OutputImage.cpp", "#include <algorithm>"},
     {"track/OutputImage.cpp", "// language/ stands above"},
 };
@@ -38,6 +39,8 @@ const IncludeRow IncludesRefused[] = {
     {"form/Controls.h", "  #  include \"common/SharedState.h\""},
     {"authoring/ProgramEditor.cpp", "#include \"programs/ProgramFiles.h\""},
     {"shell/Events.cpp", "#include \"view/View.h\""},
+    {"view/View.cpp", "#include \"shell/Events.h\""},
+    {"view/View.cpp", "#include \"hardware/AdapterLayer.h\""},
     {"shell/Events.cpp", "#include \"Events.h\""},
     {"attic/Old.cpp", "int i;"},
 };

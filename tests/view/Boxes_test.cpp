@@ -7,6 +7,7 @@
 #include <QTimer>
 #include <string>
 
+#include "view/ViewDesktop.h"
 #include "view/ViewTest.h"
 
 namespace glidetrak {

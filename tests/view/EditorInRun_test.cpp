@@ -20,6 +20,7 @@
 #include "language/RunControl.h"
 #include "shell/Events.h"
 #include "view/EditorTest.h"
+#include "view/ViewDesktop.h"
 
 namespace glidetrak {
 namespace {

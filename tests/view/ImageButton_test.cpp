@@ -5,6 +5,7 @@
 #include <QWindow>
 
 #include "common/MiscCode.h"
+#include "view/ViewDesktop.h"
 #include "view/ViewTest.h"
 
 namespace glidetrak {

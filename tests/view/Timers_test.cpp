@@ -3,6 +3,7 @@
 #include <QElapsedTimer>
 #include <QTimer>
 
+#include "view/ViewDesktop.h"
 #include "view/ViewTest.h"
 
 namespace glidetrak {

@@ -6,6 +6,7 @@
 #include "shell/Monitor_Functions.h"
 #include "view/Monitors.h"
 #include "view/Units.h"
+#include "view/ViewDesktop.h"
 #include "view/ViewTest.h"
 
 namespace glidetrak {

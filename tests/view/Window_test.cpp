@@ -4,6 +4,7 @@
 #include <QTimer>
 
 #include "view/Units.h"
+#include "view/ViewDesktop.h"
 #include "view/ViewTest.h"
 
 namespace glidetrak {

@@ -1,4 +1,4 @@
-#include "view/ProgramEditor.h"
+#include "view/TextBoxWidget.h"
 
 #include <QCoreApplication>
 #include <QMimeData>
@@ -47,7 +47,7 @@ qsizetype SliceEnd(const QString& sText, qsizetype iStart, qsizetype iEnd) {
 
 }  // namespace
 
-ProgramEditor::ProgramEditor(TextBox& box, QWidget* pParent) : QPlainTextEdit(pParent), m_box(box) {
+TextBoxWidget::TextBoxWidget(TextBox& box, QWidget* pParent) : QPlainTextEdit(pParent), m_box(box) {
   setTabChangesFocus(true);
   setLineWrapMode(QPlainTextEdit::WidgetWidth);
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -67,7 +67,7 @@ ProgramEditor::ProgramEditor(TextBox& box, QWidget* pParent) : QPlainTextEdit(pP
 
 /// The station may set the text while it hears of an edit; the widget is in the midst of that edit
 /// then and cannot be filled.
-void ProgramEditor::FollowText() {
+void TextBoxWidget::FollowText() {
   if (m_bTelling) {
     MarkStale();
   } else {
@@ -75,7 +75,7 @@ void ProgramEditor::FollowText() {
   }
 }
 
-void ProgramEditor::FollowReplacement(int iStart, const QString& sInserted) {
+void TextBoxWidget::FollowReplacement(int iStart, const QString& sInserted) {
   const bool bShowsAll = m_bComplete && !m_bTelling && !m_bStale;
   if (!bShowsAll || !PutIn(iStart, sInserted)) FollowText();
   MarkSelection();
@@ -83,7 +83,7 @@ void ProgramEditor::FollowReplacement(int iStart, const QString& sInserted) {
 
 /// What lies behind the replaced stretch tells where it ended. False where the widget then shows
 /// another text: the replacement has parted a line end, made one, or a line too long to be shown.
-bool ProgramEditor::PutIn(int iStart, const QString& sInserted) {
+bool TextBoxWidget::PutIn(int iStart, const QString& sInserted) {
   const QScopedValueRollback applying(m_bApplying, true);
   const auto iInserted = static_cast<int>(sInserted.size());
   const int iFrom = DocumentPosition(m_box.LineStarts(), iStart);
@@ -101,7 +101,7 @@ bool ProgramEditor::PutIn(int iStart, const QString& sInserted) {
          StationText(*document(), 0, DocumentLength()) == m_box.Text();
 }
 
-void ProgramEditor::Fill() {
+void TextBoxWidget::Fill() {
   const QScopedValueRollback applying(m_bApplying, true);
   m_bStale = false;
   m_iFilled = 0;
@@ -112,7 +112,7 @@ void ProgramEditor::Fill() {
   MarkSelection();
 }
 
-void ProgramEditor::FillSlice() {
+void TextBoxWidget::FillSlice() {
   const QScopedValueRollback applying(m_bApplying, true);
   const QString& sText = m_box.Text();
   const qsizetype iEnd = SliceEnd(sText, m_iFilled, m_iShowable);
@@ -133,29 +133,29 @@ void ProgramEditor::FillSlice() {
 }
 
 /// Whatever waits by then is done at the next turn of the event loop, once.
-void ProgramEditor::FollowLater() {
+void TextBoxWidget::FollowLater() {
   if (std::exchange(m_bFollowPosted, true)) return;
   QCoreApplication::postEvent(this, new QEvent(FollowEvent));
 }
 
-void ProgramEditor::Follow() {
+void TextBoxWidget::Follow() {
   m_bFollowPosted = false;
   CatchUp();
   if (m_iFilled < m_iShowable) FillSlice();
 }
 
 /// What the user does next is done to what the station shows by now.
-void ProgramEditor::CatchUp() {
+void TextBoxWidget::CatchUp() {
   MendStale();
   ApplySelection();
 }
 
-void ProgramEditor::MarkStale() {
+void TextBoxWidget::MarkStale() {
   m_bStale = true;
   FollowLater();
 }
 
-void ProgramEditor::MendStale() {
+void TextBoxWidget::MendStale() {
   if (!m_bStale) return;
   const int iScroll = verticalScrollBar()->value();
   Fill();
@@ -165,18 +165,18 @@ void ProgramEditor::MendStale() {
 
 /// A read-only editor takes no key, no input method, no paste, cut or drop, and offers none in its
 /// menu; disabled, it would lose the focus, which a Trace step leaves where it is.
-void ProgramEditor::ObeyLock() {
+void TextBoxWidget::ObeyLock() {
   const bool bLocked = !m_bComplete || bProgramRunning;
   if (isReadOnly() != bLocked) setReadOnly(bLocked);
 }
 
 /// A run selects a line for every statement: the widget follows once per return to the event loop.
-void ProgramEditor::MarkSelection() {
+void TextBoxWidget::MarkSelection() {
   m_bSelectionMarked = true;
   FollowLater();
 }
 
-void ProgramEditor::ApplySelection() {
+void TextBoxWidget::ApplySelection() {
   if (!std::exchange(m_bSelectionMarked, false) || m_bStale) return;
   const QScopedValueRollback applying(m_bApplying, true);
   const int iStart = m_box.SelStart();
@@ -190,7 +190,7 @@ void ProgramEditor::ApplySelection() {
   ensureCursorVisible();
 }
 
-void ProgramEditor::TellSelection() {
+void TextBoxWidget::TellSelection() {
   if (m_bApplying || m_bStale) return;
   const QTextCursor cursor = textCursor();
   const int iStart = StationOffset(m_box.LineStarts(), cursor.selectionStart());
@@ -200,7 +200,7 @@ void ProgramEditor::TellSelection() {
 
 /// The widget often reports a wider stretch than was changed, and the final paragraph break with
 /// it; what lies behind the stretch tells where it ends now.
-void ProgramEditor::TellEdit(int iPosition, int iRemoved) {
+void TextBoxWidget::TellEdit(int iPosition, int iRemoved) {
   if (m_bApplying || m_bStale) return;
   const int iOldEnd = std::min(iPosition + iRemoved, ShownLength());
   const int iNewEnd = DocumentLength() - (ShownLength() - iOldEnd);
@@ -214,7 +214,7 @@ void ProgramEditor::TellEdit(int iPosition, int iRemoved) {
   if (ShownLength() != DocumentLength()) MarkStale();
 }
 
-bool ProgramEditor::event(QEvent* pEvent) {
+bool TextBoxWidget::event(QEvent* pEvent) {
   if (pEvent->type() == FollowEvent) {
     Follow();
     return true;
@@ -224,7 +224,7 @@ bool ProgramEditor::event(QEvent* pEvent) {
 }
 
 /// The mouse is told after the widget's own answer: a double click finds its word selected.
-bool ProgramEditor::viewportEvent(QEvent* pEvent) {
+bool TextBoxWidget::viewportEvent(QEvent* pEvent) {
   const bool bMouse = IsMouseEvent(*pEvent);
   if (bMouse || pEvent->type() == QEvent::Drop) CatchUp();
   const bool bAnswered = QPlainTextEdit::viewportEvent(pEvent);
@@ -233,13 +233,13 @@ bool ProgramEditor::viewportEvent(QEvent* pEvent) {
 }
 
 /// The menu is the toolkit's own.
-void ProgramEditor::contextMenuEvent(QContextMenuEvent* pEvent) {
+void TextBoxWidget::contextMenuEvent(QContextMenuEvent* pEvent) {
   InstallToolkitTexts();
   QPlainTextEdit::contextMenuEvent(pEvent);
 }
 
 /// A line separator is a line end like any other.
-void ProgramEditor::keyPressEvent(QKeyEvent* pEvent) {
+void TextBoxWidget::keyPressEvent(QKeyEvent* pEvent) {
   if (!pEvent->matches(QKeySequence::InsertLineSeparator) || isReadOnly()) {
     QPlainTextEdit::keyPressEvent(pEvent);
     return;
@@ -249,7 +249,7 @@ void ProgramEditor::keyPressEvent(QKeyEvent* pEvent) {
 }
 
 /// The toolkit would take it in a read-only editor too.
-void ProgramEditor::inputMethodEvent(QInputMethodEvent* pEvent) {
+void TextBoxWidget::inputMethodEvent(QInputMethodEvent* pEvent) {
   if (isReadOnly()) {
     pEvent->ignore();
   } else {
@@ -259,7 +259,7 @@ void ProgramEditor::inputMethodEvent(QInputMethodEvent* pEvent) {
 
 /// A press into the selection begins a new one, as it does beside it: the toolkit would take it for
 /// the beginning of a drag and move the text.
-void ProgramEditor::mousePressEvent(QMouseEvent* pEvent) {
+void TextBoxWidget::mousePressEvent(QMouseEvent* pEvent) {
   const bool bExtends = pEvent->modifiers() == Qt::ShiftModifier;
   QTextCursor cursor = textCursor();
   if (pEvent->button() == Qt::LeftButton && !bExtends && cursor.hasSelection()) {
@@ -271,22 +271,22 @@ void ProgramEditor::mousePressEvent(QMouseEvent* pEvent) {
 
 /// A hand that trembles on the second press must not drag the selection off the line that the
 /// double click has chosen.
-void ProgramEditor::mouseMoveEvent(QMouseEvent* pEvent) {
+void TextBoxWidget::mouseMoveEvent(QMouseEvent* pEvent) {
   if (!m_bWordChosen) QPlainTextEdit::mouseMoveEvent(pEvent);
 }
 
-void ProgramEditor::mouseDoubleClickEvent(QMouseEvent* pEvent) {
+void TextBoxWidget::mouseDoubleClickEvent(QMouseEvent* pEvent) {
   m_bWordChosen = true;
   QPlainTextEdit::mouseDoubleClickEvent(pEvent);
 }
 
-void ProgramEditor::mouseReleaseEvent(QMouseEvent* pEvent) {
+void TextBoxWidget::mouseReleaseEvent(QMouseEvent* pEvent) {
   m_bWordChosen = false;
   QPlainTextEdit::mouseReleaseEvent(pEvent);
 }
 
 /// Other programs, and the toolkit's clipboard, end lines with LF.
-QMimeData* ProgramEditor::createMimeDataFromSelection() const {
+QMimeData* TextBoxWidget::createMimeDataFromSelection() const {
   const QTextCursor cursor = textCursor();
   QString sText = StationText(*document(), cursor.selectionStart(), cursor.selectionEnd());
   auto* pData = new QMimeData;
@@ -294,7 +294,7 @@ QMimeData* ProgramEditor::createMimeDataFromSelection() const {
   return pData;
 }
 
-void ProgramEditor::insertFromMimeData(const QMimeData* pSource) {
+void TextBoxWidget::insertFromMimeData(const QMimeData* pSource) {
   if (isReadOnly() || !pSource->hasText()) return;
   QTextCursor cursor = textCursor();
   cursor.beginEditBlock();

@@ -22,9 +22,9 @@ namespace glidetrak {
 ///
 /// Where an edit makes a bare CR and a bare LF neighbours, the station has a line end more than the
 /// widget shows; the widget is then stale and filled anew before it takes another event.
-class ProgramEditor : public QPlainTextEdit {
+class TextBoxWidget : public QPlainTextEdit {
  public:
-  ProgramEditor(TextBox& box, QWidget* pParent);
+  TextBoxWidget(TextBox& box, QWidget* pParent);
 
  protected:
   bool event(QEvent* pEvent) override;
