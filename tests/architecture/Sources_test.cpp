@@ -10,6 +10,8 @@
 #include <vector>
 
 #include "architecture/SourceRules.h"
+#include "architecture/WriterRules.h"
+#include "station/Print.h"
 
 namespace glidetrak {
 namespace {
@@ -49,13 +51,33 @@ TEST(Sources, AreFoundInEveryRoom) {
   std::set<QString> rooms;
   for (const SourceFile& file : ReadSources()) rooms.insert(file.sPath.section(u'/', 0, 0));
   for (const char* sRoom : {"platform", "form", "common", "strings", "hardware", "track",
-                            "language", "authoring", "programs", "shell", "main.cpp"}) {
+                            "language", "authoring", "programs", "shell", "view", "main.cpp"}) {
     EXPECT_TRUE(rooms.contains(sRoom)) << sRoom;
   }
 }
 
 TEST(Sources, IncludeOnlyRoomsBelowThem) {
   ExpectEveryFileKeeps(RoomViolations);
+}
+
+ReferenceTakers ReadTakers(const std::vector<SourceFile>& aFiles) {
+  ReferenceTakers takers;
+  for (const SourceFile& file : aFiles) CollectTakers(file.sText, takers);
+  return takers;
+}
+
+TEST(Sources, LeaveASharedVariableToItsWriters) {
+  const std::vector<SourceFile> aFiles = ReadSources();
+  EXPECT_EQ(WriterViolations(aFiles, ReadTakers(aFiles)), QStringList());
+}
+
+TEST(Sources, ShareNoVariableWithoutARowOfWriters) {
+  ExpectEveryFileKeeps(UnlistedVariables);
+}
+
+TEST(Sources, AreNamedAsWritersOnlyWhereTheyWrite) {
+  const std::vector<SourceFile> aFiles = ReadSources();
+  EXPECT_EQ(IdleWriters(aFiles, ReadTakers(aFiles)), QStringList());
 }
 
 TEST(Sources, WindowHeadersAreKnown) {
