@@ -1,21 +1,26 @@
 #pragma once
 
-// The folders of the station. All end in a backslash.
+// The folders of the station, in its own way of writing paths, and the index of its language.
 
 #include <QString>
 
 namespace glidetrak {
 
-/// Folder of the executable. Set by start-up.
+/// Folder of the executable, with a backslash at its end; "" until start-up sets it, and when the
+/// machine does not tell.
 inline QString sAppPath;
 
-/// "" or Language\hhhh\, relative to sAppPath. Set by start-up.
+/// "" or Language\hhhh\, hhhh being the language code in hex, relative to sAppPath. Set by start-up
+/// alone; "" too where that folder has no configuration file.
 inline QString sLanguageFolder;
 
-/// Where the file dialogs open: the documents folder, then the folder of the last Open.
+/// Where the file dialogs open: start-up sets it to GetDocumentsFolder, each Open that chose a file
+/// to that file's folder. "" or blanks mean the documents folder.
 inline QString sUserFolder;
 
-/// Index of the interface language as text; "0" is United States English. Set by start-up.
+/// Index of the interface language as text; "0" is United States English. Start-up sets it to the
+/// system's, /LANG to the text behind it, whatever that is, /LC to that of its code; start-up
+/// takes one that has no texts back to "0".
 inline QString sLanguageIndex = "0";
 
 /// The folder with a backslash at its end.

@@ -147,6 +147,7 @@ void ShowLinkState() {
 }
 
 void HandleLinkLost() {
+  Q_ASSERT(!bUsbLink);  // a read on USB never fails
   bLinkUp = false;
   ShowLinkState();
   tmrReconnect.Enabled = true;

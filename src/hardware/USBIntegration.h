@@ -7,16 +7,19 @@
 //   Read state,  3 bytes:  3, 0, 0. In the reply byte 2 is the digital input, byte 3 the analog
 //                          byte with its value, 0 to 15, in the high nibble.
 //
-// An exchange blocks the thread until its reply comes, or 1000 ms.
+// An exchange blocks the thread: the search for a device that was lost, the write for as long as
+// the kernel takes, then the wait for the reply, 1000 ms at most. None raises anything.
 
 #include <QtGlobal>
 
 namespace glidetrak {
 
-/// A new device object each time; true when the adapter is there and open.
+/// A new device object each time, the old one closed first; true when the adapter is there and
+/// open.
 bool UsbOpenAdapter();
 
-/// True when the report was written, whatever became of the reply.
+/// True when the report was written, whatever became of the reply. Before the first UsbOpenAdapter
+/// and behind UsbCloseAdapter this is false and the readings below are 0.
 bool UsbWriteOutput(quint8 iByte);
 
 /// The digital input byte; 0 when no reply came.

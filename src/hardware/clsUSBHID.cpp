@@ -53,6 +53,8 @@ std::optional<QByteArray> clsUSBHID::ReadReport() {
 
 void clsUSBHID::OpenWhenNeeded() {
   if (!m_bConnected || !m_bLengthsKnown) OpenDevice();
+  Q_ASSERT(m_bConnected == (m_lHIDhandle != 0));
+  Q_ASSERT(m_bConnected || m_lReadHandle == 0);
 }
 
 void clsUSBHID::OpenDevice() {

@@ -5,16 +5,24 @@
 // device by itself at the next report; while the device is gone each report attempt searches for
 // it once. It raises nothing and shows nothing.
 //
-//   state    connected flag  handles   leaves by
-//   New      false           0         the first bDeviceConnected, WriteReport, ReadReport
-//   Open     true            both set  a read that times out: Closed; one that fails: Stale
-//   Mute     true            both set  the next report: OpenDevice, which closes them first
-//   Stale    false           both set  the next report: OpenDevice, which closes them first
-//   Closed   false           0         the next report: OpenDevice
+//   state    connected flag  handles      lengths known  leaves by
+//   New      false           0            no             the first act [OpenDevice]
+//   Open     true            both set     yes            a read that times out: Closed
+//   [CloseDevice];
+//                                                        one that fails: Stale [ReadReport]
+//   Deaf     true            write only   yes            bDeviceConnected alone [OpenDevice]
+//   Mute     true            write set    no             the next act [OpenDevice]
+//   Stale    false           both set     yes            the next act [OpenDevice]
+//   Closed   false           0            as before      the next act [OpenDevice]
 //
-// Mute is an open device whose report lengths could not be learnt, by an object that never learnt
-// any: it can exchange nothing. An object that has learnt them once keeps them over a close, and a
-// reopening that cannot learn them goes on with those.
+// The acts are WriteReport, ReadReport and bDeviceConnected; the last opens afresh in every state.
+// OpenDevice closes what is open, then ends in Open, Deaf or Mute with a device and in Closed
+// without. A write that fails or is refused leads nowhere.
+//
+// Deaf is a device whose second opening, for reads, failed: it takes reports, and each read brings
+// nothing at once. Mute is one whose report lengths could not be learnt, by an object that never
+// learnt any: it can exchange nothing. An object that has learnt them once keeps them over a close,
+// and a reopening that cannot learn them goes on with those.
 //
 // An answer that came too late for its read must not be taken for the answer to a later report, and
 // other processes' answers on the same device arrive here too. So each write first drops what waits
@@ -49,8 +57,8 @@ class clsUSBHID {
   /// report begins with its id and is cut to the device's length. Takes no memory.
   void WriteInCrash(std::span<const char> report);
 
-  /// The next input report without its report id, always one byte less than the declared length;
-  /// nothing when none came. Blocks for up to lReadTimeOut.
+  /// The next input report without its report id, always one byte less than the declared length,
+  /// with zeros behind what the device sent; nothing when none came. Blocks for up to lReadTimeOut.
   std::optional<QByteArray> ReadReport();
 
   /// Opens the device afresh and tells whether it is there.

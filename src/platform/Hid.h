@@ -1,9 +1,8 @@
 #pragma once
 
 // The HID devices of the machine, in the station's own terms. platform/linux and platform/windows
-// answer it, tests with their virtual rig. No operation raises anything; each returns at once but
-// Write, which waits as long as the system does, and Read, which says how long. Failures are told
-// by the results.
+// answer it, tests with their virtual rig. Failures are told by the results. Write waits as long as
+// the system does, and Read says how long; nothing else waits for a device's answer.
 //
 // Example: a device whose input reports hold 64 bytes has an iInput of 65. Read fills bytes 1 to 64
 // and leaves a 0 at 0 where the device's reports are not numbered.

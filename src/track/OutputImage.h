@@ -1,9 +1,11 @@
 #pragma once
 
 // The rig is driven by one byte, lOutputImage: bits 0 to 3 motor power as a plain binary number,
-// bit 4 direction (1 forward), bits 5 to 7 left as they are. The operations here are the only ones
-// that change it; each sends it at once while the link is up, and only changes the image and the
-// panel while it is down. The image is not sent again when a link comes back.
+// bit 4 direction (1 forward), bits 5 to 7 left as they are. SetPower and SetOutputBit change it,
+// and everything else here goes through them; each sends it at once while the link is up, and only
+// changes the image and the panel while it is down. The image is not sent again when a link comes
+// back. Beside them start-up alone writes to it: a 0 that is not sent, before the first
+// SetDirection and SetPower.
 //
 // There is no brake bit: HALT is power 0, and an emergency stop is power 0 with a latch on the
 // panel. Failing steps are passed over; a failed write is told to nobody.
@@ -12,20 +14,24 @@
 
 namespace glidetrak {
 
-/// Motor power now, 0 to 15.
+/// Motor power now, 0 to 15. Written by SetPower and ApplyLeverPower; the report to the panel in
+/// Program mode hands it to SetPowerLever, which clamps it.
 inline qint16 iPower = 0;
 
-/// The value last handed to SetPower, before it was clamped; -1 at start-up.
+/// The value last handed to SetPower, before 16 and more became 0, as 16 bits with sign; -1 from
+/// start-up to the first. Written by SetPower, and by start-up.
 inline qint16 iLastPowerRequest = -1;
 
-/// The level on which the lever stands, 0 to 15; -1 at start-up, so that the first SetPower places
-/// it. The drag on the operating panel writes it too.
+/// The level on which the lever stands, 0 to 15; -1 until the first SetPower, so that that one
+/// places it. Written by SetPowerLever, and by the drag on the operating panel.
 inline qint16 iLeverLevel = -1;
 
-/// 1 forward, 0 backward.
+/// 1 forward, 0 backward. Written by SetDirection. A reset program (New, Load, a pre-set) sets it
+/// to 1 and start-up to 0, both without bit 4: behind a reset the vehicle may still go backward,
+/// and a SetDirection to forward then sends nothing.
 inline qint16 iDirection = 1;
 
-/// iPower is 1 or more.
+/// The last SetPower left a power of 1 or more. Written there.
 inline bool bMotorOn = false;
 
 /// The lever's place in twips: level 15 is the top of its slot, level 0 the bottom.

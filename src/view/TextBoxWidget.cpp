@@ -122,6 +122,7 @@ void TextBoxWidget::FillSlice() {
   InsertShown(cursor, QStringView(sText).mid(m_iFilled, iEnd - m_iFilled));
   cursor.endEditBlock();
   m_iFilled = iEnd;
+  Q_ASSERT(m_iFilled <= m_iShowable);
   m_bComplete = m_iFilled == sText.size();
   ObeyLock();
   setUndoRedoEnabled(m_bComplete);
