@@ -62,10 +62,15 @@ enum Pointer {
   ptrCustom = 99,  ///< the control's MouseIcon
 };
 
-struct Control {
+/// The lean base: whatever can be switched off. It has neither a place nor a mouse.
+struct Component {
+  QProperty<bool> Enabled{true};
+};
+
+/// A component that stands on a form: it has a place, a look, a mouse, keys and the focus.
+struct Control : Component {
   QProperty<float> Left{0}, Top{0}, Width{0}, Height{0};
   QProperty<bool> Visible{true};
-  QProperty<bool> Enabled{true};
   QProperty<QString> ToolTipText;
   QProperty<int> MousePointer{ptrDefault};
   QProperty<PictureId> MouseIcon{PictureId::None};
@@ -149,13 +154,15 @@ struct CheckBox : Control {
 };
 
 /// An "&" in the caption marks the access key.
-struct MenuItem : Control {
+struct MenuItem : Component {
   QProperty<QString> Caption;
+  QProperty<bool> Visible{true};
+  Event<> Click;
 };
 
 /// Fires each Interval ms while enabled. Enabling a disabled timer or changing its interval starts
 /// the interval anew; writing the value that it already has does nothing.
-struct Timer : Control {
+struct Timer : Component {
   Timer() { Enabled = false; }
   QProperty<int> Interval{0};  ///< milliseconds, above 0 when enabled
   Event<> Fired;
@@ -163,7 +170,7 @@ struct Timer : Control {
 
 /// A file dialog of the desktop's own. The fields are set before a showing; FileName, FileTitle and
 /// Flags are read after it.
-struct FileDialog : Control {
+struct FileDialog {
   QString InitDir;      ///< station path
   QString FileName;     ///< before: the name offered; after: the full path, "" when cancelled
   QString FileTitle;    ///< after: the name without folders
@@ -184,7 +191,7 @@ enum DialogFlag {
 };
 
 /// Pictures by number, from 1.
-struct ImageList : Control {
+struct ImageList {
   std::vector<PictureId> Pictures;
   PictureId ListImage(int iNumber) const { return Pictures.at(static_cast<size_t>(iNumber - 1)); }
 };

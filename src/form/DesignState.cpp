@@ -17,7 +17,8 @@ void Place(Control& control, float fLeft, float fTop, float fWidth, float fHeigh
 
 void PlaceRows(std::span<const ControlRow> rows) {
   for (const ControlRow& row : rows) {
-    Place(*AsControl(row.control), row.fLeft, row.fTop, row.fWidth, row.fHeight);
+    Control* pControl = AsControl(row.control);
+    if (pControl != nullptr) Place(*pControl, row.fLeft, row.fTop, row.fWidth, row.fHeight);
   }
 }
 

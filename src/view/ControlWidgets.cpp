@@ -21,14 +21,15 @@ namespace glidetrak {
 
 namespace {
 
-/// Where a widget comes to stand and how it writes.
+/// Where a widget comes to stand and what it looks like.
 struct Setting {
   QWidget* pParent;
   QFont font;
+  Style style;
 };
 
 QWidget* MakeWidget(PictureBox& box, const Setting& setting) {
-  return MakePictureBox(box, setting.pParent);
+  return MakePictureBox(box, setting.style.bBorder, setting.pParent);
 }
 
 QWidget* MakeWidget(Image& image, const Setting& setting) {
@@ -36,13 +37,13 @@ QWidget* MakeWidget(Image& image, const Setting& setting) {
 }
 
 QWidget* MakeWidget(Label& label, const Setting& setting) {
-  QWidget* pWidget = MakeLabel(label, setting.font, setting.pParent);
+  QWidget* pWidget = MakeLabel(label, setting.font, setting.style, setting.pParent);
   RelayPassive(pWidget, label);
   return pWidget;
 }
 
 QWidget* MakeWidget(TextBox& box, const Setting& setting) {
-  return MakeTextBox(box, setting.font, setting.pParent);
+  return MakeTextBox(box, setting.font, setting.style, setting.pParent);
 }
 
 QWidget* MakeWidget(ImageButton& button, const Setting& setting) {
@@ -102,8 +103,8 @@ class ControlMaker {
   ControlMaker(QWidget* pClient, FocusKeeper& focus) : m_pClient(pClient), m_focus(focus) {}
 
   void MakeRow(const ControlRow& row) {
-    QWidget* pParent = m_aPanels.value(row.pContainer, m_pClient);
-    const Setting setting{pParent, MakeFont(row.font)};
+    QWidget* pParent = m_aWidgets.value(row.pContainer, m_pClient);
+    const Setting setting{pParent, MakeFont(row.font), row.style};
     if (row.iMembers == 1) {
       Make(row.sName, row.control, setting);
       return;
@@ -114,7 +115,35 @@ class ControlMaker {
     }
   }
 
+  /// The later rows of a lower layer end lowest.
+  void Lower(Layer layer, std::span<const ControlRow> rows) {
+    for (const MemberRow& row : MemberTable()) {
+      if (row.layer == layer) LowerOne(row.control);
+    }
+    for (const ControlRow& row : rows) {
+      if (row.layer == layer) LowerOne(row.control);
+    }
+  }
+
+  void OrderTab(const ControlRow& row) {
+    if (row.pTabFrom == nullptr) return;
+    QWidget::setTabOrder(m_aWidgets.value(row.pTabFrom), WidgetOf(row.control));
+  }
+
+  void GiveRole(const ControlRow& row) {
+    if (row.role == Role::FocusKeeper) m_focus.SetGrab(WidgetOf(row.control));
+  }
+
  private:
+  QWidget* WidgetOf(const ControlRef& control) const {
+    return m_aWidgets.value(AsControl(control));
+  }
+
+  /// The members belong to one of the forms alone.
+  void LowerOne(const ControlRef& control) {
+    if (QWidget* pWidget = WidgetOf(control)) pWidget->lower();
+  }
+
   void Make(const QString& sName, const ControlRef& control, const Setting& setting) {
     std::visit([&](auto* pControl) { MakeOne(sName, *pControl, setting); }, control);
   }
@@ -126,7 +155,7 @@ class ControlMaker {
     if (!pWidget->testAttribute(Qt::WA_SetFont)) pWidget->setFont(setting.font);
     ObservePlace(pWidget, control, [pWidget, &control] { pWidget->setGeometry(PlaceOf(control)); });
     WireControl(pWidget, control, m_focus);
-    m_aPanels.insert(&control, pWidget);
+    m_aWidgets.insert(&control, pWidget);
   }
 
   /// A label sees to its own place and font.
@@ -134,6 +163,7 @@ class ControlMaker {
     QWidget* pWidget = MakeWidget(label, setting);
     pWidget->setObjectName(sName);
     WireControl(pWidget, label, m_focus);
+    m_aWidgets.insert(&label, pWidget);
   }
 
   void MakeOne(const QString& sName, Timer& timer, const Setting&) {
@@ -149,7 +179,7 @@ class ControlMaker {
 
   QWidget* m_pClient;
   FocusKeeper& m_focus;
-  QHash<const Control*, QWidget*> m_aPanels;
+  QHash<const Control*, QWidget*> m_aWidgets;
 };
 
 }  // namespace
@@ -157,6 +187,11 @@ class ControlMaker {
 void MakeControls(std::span<const ControlRow> rows, QWidget* pClient, FocusKeeper& focus) {
   ControlMaker maker(pClient, focus);
   for (const ControlRow& row : rows) maker.MakeRow(row);
+  for (const Layer layer : {Layer::Behind, Layer::Background}) maker.Lower(layer, rows);
+  for (const ControlRow& row : rows) {
+    maker.OrderTab(row);
+    maker.GiveRole(row);
+  }
 }
 
 void WireControl(QWidget* pWidget, Control& control, FocusKeeper& focus) {

@@ -10,8 +10,9 @@
 namespace glidetrak {
 
 /// Makes the widget of every row, each a child of its container's widget, the form's own controls
-/// on `pClient`, and wires their properties, events and methods. Widgets and timers are named as
-/// their controls, members of an array name_index. File dialogs, whose methods are filled, and
+/// on `pClient`, and wires their properties, events and methods. Layers, the order of Tab and the
+/// keeper of the focus are the table's. Widgets and timers are named as their controls, members of
+/// an array name_index. File dialogs, whose methods are filled, and
 /// image lists have no widget.
 void MakeControls(std::span<const ControlRow> rows, QWidget* pClient, FocusKeeper& focus);
 

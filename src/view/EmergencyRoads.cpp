@@ -5,21 +5,11 @@
 #include <algorithm>
 
 #include "common/SharedState.h"
-#include "form/frmGlidetrak.h"
 #include "view/Fire.h"
 
 namespace glidetrak {
 
 namespace {
-
-/// A second copy has windows too before it gives up, and a rig that is not its own.
-bool IsOpenForUse() {
-  return frmGlidetrak.Visible && !bShuttingDown;
-}
-
-void PressButton() {
-  if (IsOpenForUse()) Fire(btnEmergency.MouseDown, mouseLeft, 0.0F, 0.0F);
-}
 
 bool IsEmergencyKey(const QKeyEvent& event) {
   return event.key() == Qt::Key_F12 || event.key() == Qt::Key_Pause;
@@ -35,11 +25,21 @@ void ClosePopups() {
 
 }  // namespace
 
-EmergencyRoads::EmergencyRoads(QWidget* pWindow)
+EmergencyRoads::EmergencyRoads(FormWindow* pWindow, const ControlRow& button)
     : QObject(pWindow),
       m_pWindow(pWindow),
-      m_pButton(pWindow->findChild<QWidget*>("btnEmergency")) {
+      m_button(*AsControl(button.control)),
+      m_pButton(pWindow->findChild<QWidget*>(button.sName)) {
   qApp->installEventFilter(this);
+}
+
+/// A second copy has windows too before it gives up, and a rig that is not its own.
+bool EmergencyRoads::IsOpenForUse() const {
+  return m_pWindow->ShownForm().Visible && !bShuttingDown;
+}
+
+void EmergencyRoads::PressButton() const {
+  if (IsOpenForUse()) Fire(m_button.MouseDown, mouseLeft, 0.0F, 0.0F);
 }
 
 bool EmergencyRoads::eventFilter(QObject*, QEvent* pEvent) {

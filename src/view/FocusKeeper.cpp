@@ -4,7 +4,6 @@
 #include <QMenuBar>
 #include <utility>
 
-#include "form/frmGlidetrak.h"
 #include "view/Fire.h"
 
 namespace glidetrak {
@@ -30,7 +29,6 @@ FocusKeeper::FocusKeeper(QWidget* pWindow) : QObject(pWindow), m_pWindow(pWindow
 /// While another window is active no focus signal comes, hence the update by hand.
 void FocusKeeper::Watch(QWidget* pWidget, Control& control) {
   m_aControls.insert(pWidget, &control);
-  if (&control == &txtFocusGrab) m_pGrab = pWidget;
   control.SetFocus = [this, pWidget] {
     if (!CanTakeFocus(pWidget)) return;
     pWidget->setFocus(Qt::OtherFocusReason);

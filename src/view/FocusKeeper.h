@@ -12,7 +12,8 @@ namespace glidetrak {
 /// and fires neither.
 ///
 /// The toolkit would hand the focus of a control that goes away to its neighbour in the tab order,
-/// where the user's next key presses a button that nobody looked at. Here it goes to txtFocusGrab.
+/// where the user's next key presses a button that nobody looked at. Here it goes to the grab: the
+/// control that the form's table gives Role::FocusKeeper.
 class FocusKeeper : public QObject {
  public:
   explicit FocusKeeper(QWidget* pWindow);
@@ -20,8 +21,11 @@ class FocusKeeper : public QObject {
   /// Fills the control's SetFocus and counts the widget among those whose focus is told.
   void Watch(QWidget* pWidget, Control& control);
 
+  /// Makes a widget the grab; a window needs none.
+  void SetGrab(QWidget* pWidget) { m_pGrab = pWidget; }
+
   /// To be called ahead of hiding or disabling a widget. The focus on it or in it goes to
-  /// txtFocusGrab when that can take it and stays behind, else to nobody.
+  /// the grab when that can take it and stays behind, else to nobody.
   void TakeFrom(QWidget* pWidget);
 
  private:
@@ -30,7 +34,7 @@ class FocusKeeper : public QObject {
   QWidget* m_pWindow;
   QHash<const QWidget*, Control*> m_aControls;
   Control* m_pHolder = nullptr;  ///< null while no control holds the focus
-  QWidget* m_pGrab = nullptr;    ///< of txtFocusGrab; null on a window without it
+  QWidget* m_pGrab = nullptr;    ///< null on a window without one
 };
 
 }  // namespace glidetrak

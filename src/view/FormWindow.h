@@ -18,6 +18,9 @@ class FormWindow : public QMainWindow {
  public:
   FormWindow(Form& form, const char* sName, QWidget* pOwner);
 
+  /// The form that the window shows.
+  Form& ShownForm() const { return m_form; }
+
   QWidget* Client() const { return centralWidget(); }
 
   /// To the front and active, out of the minimised state too; an open box stays on top of it. No

@@ -2,10 +2,7 @@
 
 #include <QFontMetrics>
 #include <algorithm>
-#include <span>
 
-#include "form/frmAbout.h"
-#include "form/frmGlidetrak.h"
 #include "view/Fonts.h"
 #include "view/Observe.h"
 #include "view/Units.h"
@@ -14,58 +11,8 @@ namespace glidetrak {
 
 namespace {
 
-/// What a label looks like beyond its text.
-enum class Look {
-  Text,
-  Legend,     ///< one line, centred, fitted to its place
-  Name,       ///< one line, growing to the right
-  RightText,  ///< along the right edge
-  TitleBar,   ///< the head of a floating panel
-  Pane,       ///< framed
-};
-
 constexpr int iTitleIndent = 6;
 constexpr int iTitleDarkness = 150;
-
-struct LookRow {
-  const Label* pLabel;
-  Look look;
-};
-
-const LookRow LookTable[] = {
-    {&lblTimerTitle, Look::Legend},
-    {&lblTimer, Look::Legend},
-    {&lblImpactTitle, Look::Legend},
-    {&lblImpact, Look::Legend},
-    {&lblImpact2, Look::Legend},
-    {&lblOn1, Look::Legend},
-    {&lblOn2, Look::Legend},
-    {&lblOff, Look::Legend},
-    {&lblOff2, Look::Legend},
-    {&lblControlTitle, Look::Legend},
-    {&lblPowerTitle, Look::Legend},
-    {&lblEmergStop1, Look::Legend},
-    {&lblEmergStop2, Look::Legend},
-    {&lblHWState, Look::RightText},
-    {&lblCopyright, Look::RightText},
-    {&lblMsgTitle, Look::TitleBar},
-    {&lblProgName, Look::Name},
-    {&lblProgVer, Look::Name},
-    {&CommandSelTitle, Look::TitleBar},
-    {&fraHelp, Look::Pane},
-};
-
-bool IsMember(std::span<const Label> array, const Label& label) {
-  return std::ranges::any_of(array, [&](const Label& member) { return &member == &label; });
-}
-
-Look LookOf(const Label& label) {
-  for (const LookRow& row : LookTable) {
-    if (row.pLabel == &label) return row.look;
-  }
-  const bool bBit = IsMember(lblInput, label) || IsMember(lblOutput, label);
-  return bBit ? Look::Name : Look::Text;
-}
 
 /// The colour holds for an inactive window too; a disabled label pales.
 void ShowForeColour(QLabel* pWidget, QColor colour) {
@@ -119,9 +66,6 @@ void ApplyLook(QLabel* pWidget, Look look) {
     case Look::TitleBar:
       ShowTitleBar(pWidget);
       break;
-    case Look::Pane:
-      pWidget->setFrameStyle(QFrame::Box | QFrame::Plain);
-      break;
     default:
       pWidget->setAlignment(Qt::AlignLeft | Qt::AlignTop);
   }
@@ -139,7 +83,7 @@ void PlaceLabel(QLabel* pWidget, Label& label, Look look, const QFont& font) {
 
 }  // namespace
 
-QLabel* MakeLabel(Label& label, const QFont& font, QWidget* pParent) {
+QLabel* MakeLabel(Label& label, const QFont& font, const Style& style, QWidget* pParent) {
   auto* pWidget = new QLabel(pParent);
   pWidget->setTextFormat(Qt::PlainText);
   pWidget->setWordWrap(true);
@@ -147,8 +91,9 @@ QLabel* MakeLabel(Label& label, const QFont& font, QWidget* pParent) {
   Observe(pWidget, label.Caption, [pWidget, &label] { pWidget->setText(label.Caption); });
   Observe(pWidget, label.ForeColor,
           [pWidget, &label] { ShowForeColour(pWidget, ColourOf(label.ForeColor)); });
-  ApplyLook(pWidget, LookOf(label));
-  PlaceLabel(pWidget, label, LookOf(label), font);
+  if (style.bBorder) pWidget->setFrameStyle(QFrame::Box | QFrame::Plain);
+  ApplyLook(pWidget, style.look);
+  PlaceLabel(pWidget, label, style.look, font);
   return pWidget;
 }
 

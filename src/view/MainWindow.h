@@ -4,7 +4,7 @@
 
 namespace glidetrak {
 
-/// The window of frmGlidetrak; null before BuildView and after the application object has gone.
+/// The window of the main form; null before BuildView and after the application object has gone.
 FormWindow* MainWindow();
 
 }  // namespace glidetrak

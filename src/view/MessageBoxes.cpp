@@ -6,7 +6,7 @@
 #include <QShowEvent>
 #include <algorithm>
 
-#include "form/frmGlidetrak.h"
+#include "form/ControlTable.h"
 #include "view/MainWindow.h"
 #include "view/ToolkitTexts.h"
 #include "view/Units.h"
@@ -29,7 +29,7 @@ class QuestionBox : public QMessageBox {
 
 /// The top band on the screen: what stands above the panels and the editor.
 QRect TopBand() {
-  const QRect band = PlaceOf(picHardware);
+  const QRect band = PlaceOf(*AsControl(RowInRole(Role::TopBand).control));
   return {MainWindow()->Client()->mapToGlobal(band.topLeft()), band.size()};
 }
 

@@ -1,6 +1,5 @@
 #include "view/PanelWidgets.h"
 
-#include "form/frmGlidetrak.h"
 #include "view/EventRelay.h"
 #include "view/Observe.h"
 #include "view/PictureWidget.h"
@@ -8,16 +7,8 @@
 
 namespace glidetrak {
 
-namespace {
-
-bool IsFloating(const PictureBox& panel) {
-  return &panel == &pnlMessage || &panel == &pnlCommandSel || &panel == &pnlDebug;
-}
-
-}  // namespace
-
 /// A panel with a picture of its own shows what lies behind where the picture is transparent.
-QWidget* MakePictureBox(PictureBox& box, QWidget* pParent) {
+QWidget* MakePictureBox(PictureBox& box, bool bBorder, QWidget* pParent) {
   auto* pWidget = new PictureWidget(pParent);
   const auto show = [pWidget, &box] {
     const bool bPlain = box.Picture.value() == PictureId::None;
@@ -26,7 +17,7 @@ QWidget* MakePictureBox(PictureBox& box, QWidget* pParent) {
   };
   Observe(pWidget, box.Picture, show);
   ObserveChanges(pWidget, box.BackColor, show);
-  if (IsFloating(box)) pWidget->ShowBorder(ColourOf(lGrey));
+  if (bBorder) pWidget->ShowBorder(ColourOf(lGrey));
   RelayPassive(pWidget, box);
   return pWidget;
 }

@@ -9,7 +9,9 @@
 
 namespace glidetrak {
 
-QWidget* MakePictureBox(PictureBox& box, QWidget* pParent);
+/// With a border round it where one is asked for.
+QWidget* MakePictureBox(PictureBox& box, bool bBorder, QWidget* pParent);
+
 QWidget* MakeImage(Image& image, QWidget* pParent);
 QWidget* MakeShape(Shape& shape, QWidget* pParent);
 QWidget* MakeLine(Line& line, QWidget* pParent);

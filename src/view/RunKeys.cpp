@@ -3,37 +3,32 @@
 #include <QApplication>
 
 #include "common/SharedState.h"
-#include "form/frmGlidetrak.h"
 #include "view/Fire.h"
 #include "view/FormWindow.h"
 #include "view/KeyCodes.h"
 
 namespace glidetrak {
 
-namespace {
+RunKeys::RunKeys(QObject* pOwner, Form& mainForm) : QObject(pOwner), m_mainForm(mainForm) {
+  qApp->installEventFilter(this);
+}
 
 /// The key that stops the run must not reach KeyPress: that would be a key of the idle form.
-void FirePress(const QKeyEvent& event) {
-  if (int iKeyCode = VirtualKeyCode(event)) Fire(frmGlidetrak.KeyDown, iKeyCode);
+void RunKeys::FirePress(const QKeyEvent& event) {
+  if (int iKeyCode = VirtualKeyCode(event)) Fire(m_mainForm.KeyDown, iKeyCode);
   int iCharacter = CharacterCode(event);
-  if (iCharacter != 0 && bProgramRunning) Fire(frmGlidetrak.KeyPress, iCharacter);
+  if (iCharacter != 0 && bProgramRunning) Fire(m_mainForm.KeyPress, iCharacter);
 }
 
 /// A release that nobody swallows goes on from the focused widget to the panels behind it, and
 /// comes by here each time; it is told once.
-bool ReleaseSeen(const QWidget& widget, const QKeyEvent& event) {
+bool RunKeys::ReleaseSeen(const QWidget& widget, const QKeyEvent& event) {
   const QWidget* pFocus = widget.window()->focusWidget();
   if (&widget != (pFocus ? pFocus : widget.window())) return false;
   int iKeyCode = VirtualKeyCode(event);
   if (iKeyCode == 0) return false;
-  Fire(frmGlidetrak.KeyUp, iKeyCode);
+  Fire(m_mainForm.KeyUp, iKeyCode);
   return iKeyCode == 0;
-}
-
-}  // namespace
-
-RunKeys::RunKeys(QObject* pOwner) : QObject(pOwner) {
-  qApp->installEventFilter(this);
 }
 
 bool RunKeys::eventFilter(QObject* pWatched, QEvent* pEvent) {

@@ -4,7 +4,6 @@
 #include <QLineEdit>
 
 #include "common/SkipOnError.h"
-#include "form/frmGlidetrak.h"
 #include "view/EventRelay.h"
 #include "view/Observe.h"
 #include "view/TextBoxWidget.h"
@@ -31,19 +30,19 @@ QWidget* MakeLine(TextBox& box, QWidget* pParent) {
   return pWidget;
 }
 
-QWidget* MakeEditor(TextBox& box, const QFont& font, QWidget* pParent) {
+QWidget* MakeEditor(TextBox& box, const QFont& font, bool bScrollBar, QWidget* pParent) {
   auto* pWidget = new TextBoxWidget(box, pParent);
   pWidget->setTabStopDistance(iTabColumns * QFontMetrics(font).horizontalAdvance(u' '));
-  if (&box == &txtProgram) pWidget->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+  if (bScrollBar) pWidget->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
   RelayKeys(pWidget, box);
   return pWidget;
 }
 
 }  // namespace
 
-QWidget* MakeTextBox(TextBox& box, const QFont& font, QWidget* pParent) {
+QWidget* MakeTextBox(TextBox& box, const QFont& font, const Style& style, QWidget* pParent) {
   QWidget* pWidget =
-      &box == &txtFocusGrab ? MakeLine(box, pParent) : MakeEditor(box, font, pParent);
+      style.bOneLine ? MakeLine(box, pParent) : MakeEditor(box, font, style.bScrollBar, pParent);
   Observe(pWidget, box.BackColor,
           [pWidget, &box] { ShowTextColours(pWidget, ColourOf(box.BackColor)); });
   return pWidget;

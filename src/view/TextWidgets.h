@@ -2,11 +2,11 @@
 
 #include <QWidget>
 
-#include "form/TextBox.h"
+#include "form/ControlTable.h"
 
 namespace glidetrak {
 
-/// The widget of a text box. txtFocusGrab has one line, every other several.
-QWidget* MakeTextBox(TextBox& box, const QFont& font, QWidget* pParent);
+/// The widget of a text box, with one line or several and its scroll bar as the style says.
+QWidget* MakeTextBox(TextBox& box, const QFont& font, const Style& style, QWidget* pParent);
 
 }  // namespace glidetrak

@@ -29,37 +29,15 @@ void DestroyView() {
   delete std::exchange(pMainWindow, nullptr);
 }
 
-QWidget* Widget(const QString& sName) {
-  return pMainWindow->findChild<QWidget*>(sName);
-}
-
-/// The tables draw a container's controls in their order, which is right but for these: panel
-/// backgrounds lie lowest, the focus keeper behind the editor, and the lamps' frames behind the
-/// lamps.
-void OrderOverlaps() {
-  for (int i = 8; i < 24; ++i) Widget(QString("ledOutput_%1").arg(i))->lower();
-  for (const char* sName :
-       {"txtFocusGrab", "imgSensors", "imgControls", "imgProgBoxBack", "imgHardware"}) {
-    Widget(sName)->lower();
-  }
-}
-
-/// Tab out of the editor finds no button or list that the next keys would operate.
-void OrderTabs() {
-  QWidget::setTabOrder(Widget("txtProgram"), Widget("txtFocusGrab"));
-}
-
 void BuildMainForm() {
   pMainWindow = new FormWindow(frmGlidetrak, "frmGlidetrak", nullptr);
   qAddPostRoutine(DestroyView);
   pMainWindow->menuBar()->setNativeMenuBar(false);
   FillMenuBar(pMainWindow->menuBar());
   MakeControls(MainFormTable(), pMainWindow->Client(), *new FocusKeeper(pMainWindow));
-  OrderOverlaps();
-  OrderTabs();
   pMainWindow->FitClient();
-  new RunKeys(pMainWindow);
-  new EmergencyRoads(pMainWindow);
+  new RunKeys(pMainWindow, frmGlidetrak);
+  new EmergencyRoads(pMainWindow, RowInRole(Role::EmergencyStop));
   WatchSessionEnd(pMainWindow);
 }
 

@@ -3,7 +3,6 @@
 #include <QApplication>
 #include <QScreen>
 
-#include "form/frmGlidetrak.h"
 #include "view/MainWindow.h"
 #include "view/MessageBoxes.h"
 #include "view/Monitors.h"
@@ -42,9 +41,10 @@ std::optional<PixelRect> ViewDesktop::WindowRect() {
 }
 
 void ViewDesktop::MoveWindow(qint32 lLeft, qint32 lTop) {
-  frmGlidetrak.Left = Twips(lLeft);
-  frmGlidetrak.Top = Twips(lTop);
-  frmGlidetrak.Refresh();
+  Form& form = MainWindow()->ShownForm();
+  form.Left = Twips(lLeft);
+  form.Top = Twips(lTop);
+  form.Refresh();
 }
 
 bool ViewDesktop::IsMainWindowActive() {

@@ -6,7 +6,7 @@ namespace glidetrak {
 
 namespace {
 
-const std::initializer_list<Control*> aLocked{
+const std::initializer_list<Component*> aLocked{
     &btnStopProg, &cmdRunProgram, &cmdSingleStep, &cmdProgCommands, &cmbExamples, &cmdShowExamples,
     &lblExamples, &txtProgram,    &MNUMAIN,       &MNUPROGRAMOPT,   &MNUHELP};
 
@@ -25,9 +25,9 @@ TEST_F(PickerTest, OpensFromTheButtonAndFromTheMenu) {
 
 TEST_F(PickerTest, LocksTheProgramControlsWhileItIsOpen) {
   ShowCommandPicker();
-  for (const Control* pControl : aLocked) EXPECT_FALSE(pControl->Enabled);
+  for (const Component* pLocked : aLocked) EXPECT_FALSE(pLocked->Enabled);
   CloseCommandPicker();
-  for (const Control* pControl : aLocked) EXPECT_TRUE(pControl->Enabled);
+  for (const Component* pLocked : aLocked) EXPECT_TRUE(pLocked->Enabled);
 }
 
 TEST_F(PickerTest, CannotBeOpenedTwiceAndNoProgramStarts) {
@@ -57,7 +57,7 @@ TEST_F(PickerTest, DoesNotOpenWhileAProgramRuns) {
   bProgramRunning = true;
   ShowCommandPicker();
   EXPECT_FALSE(pnlCommandSel.Visible);
-  for (const Control* pControl : aLocked) EXPECT_TRUE(pControl->Enabled);
+  for (const Component* pLocked : aLocked) EXPECT_TRUE(pLocked->Enabled);
 }
 
 /// What winds down still holds the screen, and unlocks it at its end.

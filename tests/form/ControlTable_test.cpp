@@ -4,7 +4,11 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <map>
 #include <set>
+
+#include <QSet>
 
 #include "form/MainFormPlaces.h"
 #include "form/frmAbout.h"
@@ -19,6 +23,11 @@ const ControlRow* FindRow(std::span<const ControlRow> table, const QString& sNam
     if (sName == row.sName) return &row;
   }
   return nullptr;
+}
+
+/// What tells one component from another.
+const void* Identity(const ControlRef& control) {
+  return std::visit([](auto* pComponent) -> const void* { return pComponent; }, control);
 }
 
 QString ContainerName(const ControlRow& row) {
@@ -36,10 +45,10 @@ TEST(MainForm, HasItsNinetyTwoControls) {
 
 TEST(MainForm, HasEachControlOnce) {
   std::set<QString> names;
-  std::set<Control*> controls;
+  std::set<const void*> controls;
   for (const ControlRow& row : MainFormTable()) {
     names.insert(row.sName);
-    controls.insert(AsControl(row.control));
+    controls.insert(Identity(row.control));
   }
   EXPECT_EQ(names.size(), 92U);
   EXPECT_EQ(controls.size(), 92U);
@@ -107,6 +116,71 @@ TEST(MainForm, GivesEachControlItsFont) {
     EXPECT_STREQ(pRow->font.sFamily, font.sFamily);
     EXPECT_EQ(pRow->font.fPoints, font.fPoints);
     EXPECT_EQ(pRow->font.bBold, font.bBold);
+  }
+}
+
+TEST(MainForm, PutsPanelPicturesLowestAndTheFocusKeeperNextToThem) {
+  const std::map<QString, Layer> lower{{"imgHardware", Layer::Background},
+                                       {"imgSensors", Layer::Background},
+                                       {"imgControls", Layer::Background},
+                                       {"imgProgBoxBack", Layer::Background},
+                                       {"txtFocusGrab", Layer::Behind}};
+  for (const ControlRow& row : MainFormTable()) {
+    const auto expected = lower.find(row.sName);
+    EXPECT_EQ(row.layer, expected == lower.end() ? Layer::Front : expected->second) << row.sName;
+  }
+}
+
+TEST(MainForm, GivesEachRoleToOneControl) {
+  std::map<Role, QStringList> names;
+  for (const ControlRow& row : MainFormTable()) names[row.role].append(row.sName);
+  EXPECT_EQ(names[Role::FocusKeeper], QStringList{"txtFocusGrab"});
+  EXPECT_EQ(names[Role::EmergencyStop], QStringList{"btnEmergency"});
+  EXPECT_EQ(names[Role::TopBand], QStringList{"picHardware"});
+  for (const auto& [role, aNames] : names) {
+    if (role == Role::None) continue;
+    EXPECT_EQ(RowInRole(role).sName, aNames.first());
+  }
+}
+
+TEST(MainForm, LeadsTabFromTheEditorToTheFocusKeeperAlone) {
+  for (const ControlRow& row : MainFormTable()) {
+    const bool bKeeper = row.role == Role::FocusKeeper;
+    EXPECT_EQ(row.pTabFrom, bKeeper ? &txtProgram : nullptr) << row.sName;
+  }
+}
+
+struct StyleRow {
+  QSet<QString> names;
+  bool (*hasIt)(const Style&);
+};
+
+/// Which rows of both forms stand out, look by look; whatever is not named here does not.
+const StyleRow Styles[] = {
+    {{"lblTimerTitle", "lblTimer", "lblImpactTitle", "lblImpact", "lblImpact2", "lblOn1", "lblOn2",
+      "lblOff", "lblOff2", "lblControlTitle", "lblPowerTitle", "lblEmergStop1", "lblEmergStop2"},
+     [](const Style& style) { return style.look == Look::Legend; }},
+    {{"lblProgName", "lblProgVer", "lblInput", "lblOutput"},
+     [](const Style& style) { return style.look == Look::Name; }},
+    {{"lblHWState", "lblCopyright"},
+     [](const Style& style) { return style.look == Look::RightText; }},
+    {{"lblMsgTitle", "CommandSelTitle"},
+     [](const Style& style) { return style.look == Look::TitleBar; }},
+    {{"pnlMessage", "pnlCommandSel", "pnlDebug", "fraHelp"},
+     [](const Style& style) { return style.bBorder; }},
+    {{"txtFocusGrab"}, [](const Style& style) { return style.bOneLine; }},
+    {{"txtProgram"}, [](const Style& style) { return style.bScrollBar; }},
+};
+
+TEST(BothForms, StyleTheirControls) {
+  for (const StyleRow& style : Styles) {
+    QSet<QString> names;
+    for (const auto table : {MainFormTable(), AboutFormTable()}) {
+      for (const ControlRow& row : table) {
+        if (style.hasIt(row.style)) names.insert(row.sName);
+      }
+    }
+    EXPECT_EQ(names, style.names) << "style " << &style - Styles;
   }
 }
 
@@ -191,20 +265,20 @@ TEST(Menu, HasItsFourteenEntriesInOrder) {
   for (size_t i = 0; i < std::size(Menu); ++i) {
     const MenuRow& row = MenuTable()[i];
     EXPECT_STREQ(row.sName, Menu[i].sName);
-    const Control* pHead = *Menu[i].sHead == '\0' ? nullptr : FindControl(Menu[i].sHead);
-    EXPECT_EQ(row.pHead, pHead) << row.sName;
+    const auto pHead = std::ranges::find(MenuTable(), row.pHead, &MenuRow::pItem);
+    EXPECT_STREQ(row.pHead == nullptr ? "" : pHead->sName, Menu[i].sHead) << row.sName;
   }
 }
 
-TEST(FindControl, FindsControlsMenusAndArrayMembers) {
+TEST(FindControl, FindsControlsAndArrayMembers) {
   EXPECT_EQ(FindControl("txtProgram"), &txtProgram);
-  EXPECT_EQ(FindControl("MNURUN"), &MNURUN);
   EXPECT_EQ(FindControl("ledOutput_23"), &ledOutput[23]);
   EXPECT_EQ(FindControl("optDirection_1"), &optDirection[1]);
 }
 
-TEST(FindControl, FindsNothingUnderAnyOtherName) {
-  for (const char* sName : {"", "txtprogram", "lblInput_8", "lblInput_", "frmNone"}) {
+TEST(FindControl, FindsNothingUnderAnotherNameOrWithoutAPlace) {
+  for (const char* sName : {"", "txtprogram", "lblInput_8", "lblInput_", "frmNone", "MNURUN",
+                            "tmrSystem", "cmLoad", "imgPanels"}) {
     EXPECT_EQ(FindControl(sName), nullptr) << sName;
   }
 }

@@ -95,6 +95,13 @@ TEST(Members, PutAFrameAroundEachLamp) {
   }
 }
 
+TEST(Members, PutTheFramesAloneBehindTheLamps) {
+  for (const MemberRow& row : MemberTable()) {
+    const bool bFrame = QString("ledOutput") == row.sArray && row.iIndex >= 8;
+    EXPECT_EQ(row.layer, bFrame ? Layer::Behind : Layer::Front) << row.sArray << row.iIndex;
+  }
+}
+
 TEST(Members, PutALegendBesideEachLamp) {
   for (int i = 0; i < 8; ++i) {
     const MemberRow& input = *FindMember("lblInput", i);

@@ -91,10 +91,10 @@ TEST_F(RunProgramTest, LeavesTheFailedLineSelected) {
 }
 
 /// The controls that a run locks.
-const std::vector<Control*>& LockedSet() {
-  static const std::vector<Control*> aControls{&txtProgram,      &cmdRunProgram, &cmbExamples,
-                                               &cmdShowExamples, &MNUMAIN,       &MNUHELP,
-                                               &MNUPROGRAMOPT};
+const std::vector<Component*>& LockedSet() {
+  static const std::vector<Component*> aControls{&txtProgram,      &cmdRunProgram, &cmbExamples,
+                                                 &cmdShowExamples, &MNUMAIN,       &MNUHELP,
+                                                 &MNUPROGRAMOPT};
   return aControls;
 }
 

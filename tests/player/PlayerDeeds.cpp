@@ -38,7 +38,7 @@ void Player::ClickPanel() {
 void Player::MoveMouse() {
   const QString sName = m_dice.OneOf(ReachableControls());
   Tell("mouse over " + sName);
-  FindControl(sName)->MouseMove(0, 10, 10);
+  if (Control* pControl = FindControl(sName)) pControl->MouseMove(0, 10, 10);
 }
 
 void Player::DragLever() {

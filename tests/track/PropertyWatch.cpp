@@ -7,7 +7,7 @@ namespace glidetrak {
 
 PropertyWatch::PropertyWatch(std::function<void(const QString&)> tell) : m_tell(std::move(tell)) {
   const auto watch = [this](const ControlRef& control, const QString& sName) {
-    WatchControl(*AsControl(control), sName);
+    if (Control* pControl = AsControl(control)) WatchControl(*pControl, sName);
     std::visit([&](auto* pControl) { WatchKind(*pControl, sName); }, control);
   };
   for (const ControlRow& row : MainFormTable()) {
@@ -17,8 +17,10 @@ PropertyWatch::PropertyWatch(std::function<void(const QString&)> tell) : m_tell(
     watch(row.control, QString("%1_%2").arg(row.sArray).arg(row.iIndex));
   }
   for (const MenuRow& row : MenuTable()) {
-    WatchControl(*row.pItem, row.sName);
-    Watch(row.pItem->Caption, QString(row.sName) + ".Caption");
+    const QString sName = row.sName;
+    Watch(row.pItem->Caption, sName + ".Caption");
+    Watch(row.pItem->Visible, sName + ".Visible");
+    Watch(row.pItem->Enabled, sName + ".Enabled");
   }
   Watch(screen.MousePointer, "screen.MousePointer");
 }
@@ -90,9 +92,14 @@ void PropertyWatch::WatchKind(CheckBox& box, const QString& sName) {
 }
 
 void PropertyWatch::WatchKind(Timer& timer, const QString& sName) {
+  Watch(timer.Enabled, sName + ".Enabled");
   Watch(timer.Interval, sName + ".Interval");
 }
 
-void PropertyWatch::WatchKind(Control& /*control*/, const QString& /*sName*/) {}
+void PropertyWatch::WatchKind(Line& /*line*/, const QString& /*sName*/) {}
+
+void PropertyWatch::WatchKind(FileDialog& /*dialog*/, const QString& /*sName*/) {}
+
+void PropertyWatch::WatchKind(ImageList& /*list*/, const QString& /*sName*/) {}
 
 }  // namespace glidetrak

@@ -35,7 +35,9 @@ class PropertyWatch {
   void WatchKind(OptionButton& button, const QString& sName);
   void WatchKind(CheckBox& box, const QString& sName);
   void WatchKind(Timer& timer, const QString& sName);
-  void WatchKind(Control& control, const QString& sName);
+  void WatchKind(Line& line, const QString& sName);
+  void WatchKind(FileDialog& dialog, const QString& sName);
+  void WatchKind(ImageList& list, const QString& sName);
 
   std::function<void(const QString&)> m_tell;
   std::vector<QPropertyNotifier> m_aNotifiers;

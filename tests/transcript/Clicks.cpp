@@ -7,8 +7,10 @@ namespace glidetrak {
 
 namespace {
 
-bool IsLive(const Control& control) {
-  return control.Visible && control.Enabled;
+/// A control or an entry of the menu.
+template <class Kind>
+bool IsLive(const Kind& component) {
+  return component.Visible && component.Enabled;
 }
 
 const ControlRow* FindRow(const Control* pControl) {
@@ -19,6 +21,7 @@ const ControlRow* FindRow(const Control* pControl) {
 }
 
 bool IsLiveOnForm(const Control* pControl) {
+  if (pControl == nullptr) return false;
   while (pControl != &frmGlidetrak) {
     const ControlRow* pRow = FindRow(pControl);
     if (pRow == nullptr || !IsLive(*pControl)) return false;
@@ -27,16 +30,16 @@ bool IsLiveOnForm(const Control* pControl) {
   return IsLive(frmGlidetrak);
 }
 
-bool IsLiveInMenu(const Control* pControl) {
+const MenuRow* FindEntry(const QString& sName) {
   for (const MenuRow& row : MenuTable()) {
-    if (row.pItem != pControl) continue;
-    return IsLive(*row.pItem) && (row.pHead == nullptr || IsLive(*row.pHead));
+    if (sName == row.sName) return &row;
   }
-  return false;
+  return nullptr;
 }
 
-bool IsReachable(const Control* pControl) {
-  return pControl != nullptr && (IsLiveOnForm(pControl) || IsLiveInMenu(pControl));
+bool IsLiveInMenu(const MenuRow* pRow) {
+  if (pRow == nullptr) return false;
+  return IsLive(*pRow->pItem) && (pRow->pHead == nullptr || IsLive(*pRow->pHead));
 }
 
 /// An image button tells of the press ahead of its click.
@@ -50,12 +53,13 @@ void Press(const QString& sName) {
 }  // namespace
 
 bool IsReachable(const QString& sName) {
-  return IsReachable(FindControl(sName));
+  return IsLiveOnForm(FindControl(sName)) || IsLiveInMenu(FindEntry(sName));
 }
 
 void ClickControl(const QString& sName) {
+  if (!IsReachable(sName)) return;
+  if (const MenuRow* pEntry = FindEntry(sName)) return pEntry->pItem->Click();
   Control* pControl = FindControl(sName);
-  if (!IsReachable(pControl)) return;
   const float fX = pControl->Width / 2;
   const float fY = pControl->Height / 2;
   pControl->MouseDown(mouseLeft, fX, fY);
