@@ -90,6 +90,29 @@ QStringList WindowHeaderViolations(const SourceFile& file, const WindowHeaders& 
   return aFaults;
 }
 
+std::set<QString> DeclaredNames(const QString& sHeader) {
+  static const QRegularExpression declaration("^inline \\w+\\s+(\\w+)(\\[\\d+\\])?;",
+                                              QRegularExpression::MultilineOption);
+  std::set<QString> names;
+  for (auto match = declaration.globalMatch(sHeader); match.hasNext();) {
+    names.insert(match.next().captured(1));
+  }
+  return names;
+}
+
+QStringList ControlNameViolations(const SourceFile& file, const std::set<QString>& controls) {
+  static const QRegularExpression word("\\w+");
+  QStringList aFaults;
+  if (!IsView(file)) return aFaults;
+  EachLine(file.sText, [&](const QString& sLine, int iLine) {
+    for (auto match = word.globalMatch(sLine); match.hasNext();) {
+      const QString sWord = match.next().captured().section(u'_', 0, 0);
+      if (controls.contains(sWord)) aFaults.append(At(file, iLine, "the view names " + sWord));
+    }
+  });
+  return aFaults;
+}
+
 QStringList TrimmingViolations(const SourceFile& file) {
   QStringList aFaults;
   if (IsView(file) || RoomOf(file.sPath) == "platform") return aFaults;

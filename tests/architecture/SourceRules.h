@@ -26,6 +26,13 @@ QStringList RoomViolations(const SourceFile& file);
 /// Nobody but the view knows a window toolkit; main.cpp may start the application.
 QStringList WindowHeaderViolations(const SourceFile& file, const WindowHeaders& headers);
 
+/// Every name that a header declares with "inline Kind name" or "inline Kind name[n]".
+std::set<QString> DeclaredNames(const QString& sHeader);
+
+/// The view singles out no control by its name, in code, in a text or in a comment: what it needs
+/// to know of one is told by the form's table.
+QStringList ControlNameViolations(const SourceFile& file, const std::set<QString>& controls);
+
 /// Trimming goes through TrimBlanks, which takes blanks only.
 QStringList TrimmingViolations(const SourceFile& file);
 

@@ -108,5 +108,23 @@ TEST(LengthRule, FindsALineAndAFileThatAreTooLong) {
             QStringList{"common/A.cpp:1: 501 lines"});
 }
 
+TEST(ControlNameRule, KnowsWhatAHeaderDeclares) {
+  const QString sHeader =
+      "inline Label lblTimer;  ///< time\ninline Shape ledOutput[24];\n// inline Label lblNot;\n"
+      "inline Image\n    imgLever;\n";
+  EXPECT_EQ(DeclaredNames(sHeader), (std::set<QString>{"lblTimer", "ledOutput", "imgLever"}));
+}
+
+TEST(ControlNameRule, FindsAControlNamedInTheViewInWhateverManner) {
+  const std::set<QString> controls{"txtProgram", "ledOutput"};
+  for (const char* sLine : {"if (&box == &txtProgram) return;", "Widget(\"txtProgram\")",
+                            "/// Behind txtProgram.", "Widget(\"ledOutput_7\")", "ledOutput[7]"}) {
+    EXPECT_EQ(ControlNameViolations({"view/View.cpp", sLine}, controls).size(), 1) << sLine;
+    EXPECT_EQ(ControlNameViolations({"form/Table.cpp", sLine}, controls), QStringList()) << sLine;
+  }
+  EXPECT_EQ(ControlNameViolations({"view/View.cpp", "txtProgramme(box);"}, controls),
+            QStringList());
+}
+
 }  // namespace
 }  // namespace glidetrak

@@ -93,6 +93,27 @@ TEST(Sources, LeaveTheWindowToolkitToTheView) {
   ExpectEveryFileKeeps([&](const auto& file) { return WindowHeaderViolations(file, headers); });
 }
 
+/// The controls of both forms. The forms themselves, the screen and the application are no
+/// controls.
+std::set<QString> ReadControlNames() {
+  std::set<QString> names;
+  for (const SourceFile& file : ReadSources()) {
+    if (file.sPath == "form/frmGlidetrak.h" || file.sPath == "form/frmAbout.h") {
+      names.merge(DeclaredNames(file.sText));
+    }
+  }
+  for (const char* sName : {"frmGlidetrak", "frmAbout", "screen", "application"}) {
+    EXPECT_EQ(names.erase(sName), 1U) << sName;
+  }
+  return names;
+}
+
+TEST(Sources, NameNoControlInTheView) {
+  const std::set<QString> controls = ReadControlNames();
+  EXPECT_EQ(controls.size(), 92U + 14U + 10U);
+  ExpectEveryFileKeeps([&](const auto& file) { return ControlNameViolations(file, controls); });
+}
+
 TEST(Sources, TrimBlanksOnly) {
   ExpectEveryFileKeeps(TrimmingViolations);
 }
