@@ -134,9 +134,9 @@ TEST(MainForm, PutsPanelPicturesLowestAndTheFocusKeeperNextToThem) {
 TEST(MainForm, GivesEachRoleToOneControl) {
   std::map<Role, QStringList> names;
   for (const ControlRow& row : MainFormTable()) names[row.role].append(row.sName);
-  EXPECT_EQ(names[Role::FocusKeeper], QStringList{"txtFocusGrab"});
-  EXPECT_EQ(names[Role::EmergencyStop], QStringList{"btnEmergency"});
-  EXPECT_EQ(names[Role::TopBand], QStringList{"picHardware"});
+  ASSERT_EQ(names[Role::FocusKeeper], QStringList{"txtFocusGrab"});
+  ASSERT_EQ(names[Role::EmergencyStop], QStringList{"btnEmergency"});
+  ASSERT_EQ(names[Role::TopBand], QStringList{"picHardware"});
   for (const auto& [role, aNames] : names) {
     if (role == Role::None) continue;
     EXPECT_EQ(RowInRole(role).sName, aNames.first());

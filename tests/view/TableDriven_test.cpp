@@ -61,8 +61,11 @@ TEST_F(TableDriven, ATextBoxHasTheLinesAndTheScrollBarOfItsStyle) {
   Make({Row("line", &m_first, {.bOneLine = true}), Row("bar", &m_second, {.bScrollBar = true}),
         Row("plain", &m_keeper)});
   EXPECT_NE(Find<QLineEdit>("line"), nullptr);
-  EXPECT_EQ(Find<QPlainTextEdit>("bar")->verticalScrollBarPolicy(), Qt::ScrollBarAlwaysOn);
-  EXPECT_EQ(Find<QPlainTextEdit>("plain")->verticalScrollBarPolicy(), Qt::ScrollBarAsNeeded);
+  const auto* pBar = Find<QPlainTextEdit>("bar");
+  const auto* pPlain = Find<QPlainTextEdit>("plain");
+  ASSERT_TRUE(pBar != nullptr && pPlain != nullptr);
+  EXPECT_EQ(pBar->verticalScrollBarPolicy(), Qt::ScrollBarAlwaysOn);
+  EXPECT_EQ(pPlain->verticalScrollBarPolicy(), Qt::ScrollBarAsNeeded);
 }
 
 TEST_F(TableDriven, ABorderIsDrawnRoundWhatHasOne) {
