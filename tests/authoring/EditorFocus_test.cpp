@@ -1,6 +1,6 @@
 // The focus of the editor and of its keeper.
 
-#include "programfiles/PresetTest.h"
+#include "files/PresetTest.h"
 
 namespace glidetrak {
 

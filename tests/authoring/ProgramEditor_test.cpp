@@ -2,7 +2,7 @@
 
 #include "language/Keywords.h"
 #include "language/RunState.h"
-#include "programfiles/PresetTest.h"
+#include "files/PresetTest.h"
 #include "track/OutputImage.h"
 
 namespace glidetrak {

@@ -1,6 +1,6 @@
 // The clicks of Load, Save and Save As, in virtual time.
 
-#include "programfiles/FileMenuTest.h"
+#include "files/FileMenuTest.h"
 
 namespace glidetrak {
 

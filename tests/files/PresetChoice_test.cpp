@@ -1,6 +1,6 @@
 // Choosing a pre-set, and the one that start-up chooses.
 
-#include "programfiles/PresetTest.h"
+#include "files/PresetTest.h"
 
 namespace glidetrak {
 

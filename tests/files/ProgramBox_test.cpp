@@ -1,6 +1,6 @@
 // What stands in the program box.
 
-#include "programfiles/PresetTest.h"
+#include "files/PresetTest.h"
 
 namespace glidetrak {
 

@@ -1,7 +1,7 @@
 // Writes that fail. The old file is gone before the first byte is written. One that breaks off
 // leaves the one file slot open until the process ends, one that cannot begin leaves it free.
 
-#include "programfiles/FileMenuTest.h"
+#include "files/FileMenuTest.h"
 #include "programs/PresetCatalogue.h"
 
 namespace glidetrak {

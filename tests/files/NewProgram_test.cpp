@@ -1,6 +1,6 @@
 // New, and the question about unsaved changes.
 
-#include "programfiles/FileMenuTest.h"
+#include "files/FileMenuTest.h"
 
 namespace glidetrak {
 

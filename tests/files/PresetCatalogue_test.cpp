@@ -1,6 +1,6 @@
 // What start-up reads of the pre-sets.
 
-#include "programfiles/PresetTest.h"
+#include "files/PresetTest.h"
 
 namespace glidetrak {
 

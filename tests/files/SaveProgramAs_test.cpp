@@ -1,6 +1,6 @@
 // Save As.
 
-#include "programfiles/FileMenuTest.h"
+#include "files/FileMenuTest.h"
 
 namespace glidetrak {
 

@@ -1,6 +1,6 @@
 // Save.
 
-#include "programfiles/FileMenuTest.h"
+#include "files/FileMenuTest.h"
 
 namespace glidetrak {
 

@@ -1,6 +1,6 @@
 // Showing and hiding the list of pre-sets.
 
-#include "programfiles/PresetTest.h"
+#include "files/PresetTest.h"
 
 namespace glidetrak {
 

@@ -1,4 +1,4 @@
-#include "programfiles/FileMenuTest.h"
+#include "files/FileMenuTest.h"
 
 namespace glidetrak {
 

@@ -1,6 +1,6 @@
 // Open, and what it makes of a file.
 
-#include "programfiles/FileMenuTest.h"
+#include "files/FileMenuTest.h"
 #include "strings/LanguageFunctions.h"
 
 namespace glidetrak {

@@ -41,7 +41,7 @@ void ExpectLink(RunningStation& station) {
   EXPECT_TRUE(station.RigShows("power 8"));
 }
 
-/// How often ./test starts the station in a row; tests/program/starts asks for more.
+/// How often ./test starts the station in a row; tests/running/starts asks for more.
 int Starts() {
   const int iWanted = qEnvironmentVariableIntValue("GLIDETRAK_STARTS");
   return iWanted > 0 ? iWanted : 10;
