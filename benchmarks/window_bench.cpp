@@ -16,7 +16,7 @@
 #include <vector>
 
 #include "common/SharedState.h"
-#include "form/ControlTable.h"
+#include "form/DesignState.h"
 #include "form/frmGlidetrak.h"
 #include "language/RunControl.h"
 #include "language/RunState.h"

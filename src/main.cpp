@@ -2,7 +2,7 @@
 
 #include <QApplication>
 
-#include "form/ControlTable.h"
+#include "form/DesignState.h"
 #include "form/frmGlidetrak.h"
 #include "hardware/AdapterLayer.h"
 #include "platform/ProcessEnd.h"

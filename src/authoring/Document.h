@@ -6,8 +6,8 @@
 
 namespace glidetrak {
 
-/// Station path of the program's file; empty when it has none. A reset program empties it; a load
-/// and Save As set it.
+/// Station path of the program's file; empty when it has none. ResetProgramState, New and a pre-set
+/// empty it; LoadProgramFile and Save As set it.
 inline QString sProgramFile;
 
 /// The editor holds changes that are not saved. Set by a changed text (txtProgram_Change); cleared

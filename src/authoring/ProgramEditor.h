@@ -6,12 +6,13 @@
 
 namespace glidetrak {
 
-/// txtProgram holds the focus.
+/// txtProgram holds the focus. Written by its GotFocus and LostFocus; a reset program clears it.
 inline bool bEditorHasFocus = false;
 
 /// The selection kept from the last loss of focus. GotFocus puts it back when start and length are
 /// both non-zero, so never one that starts at the first character; it also survives an insertion
-/// from the picker. Both deliberate.
+/// from the picker, which empties the text alone. Both deliberate. Written by LostFocus and cleared
+/// by a reset program.
 inline qint32 lSavedSelStart = 0;
 inline qint32 lSavedSelLength = 0;
 inline QString sSavedSelText;  ///< stored and cleared; read by nobody

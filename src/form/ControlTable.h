@@ -2,7 +2,7 @@
 
 // Every control of the two forms as data: kind, container, place, size, font, style, layer and what
 // it is for the window. The view draws the forms from these tables and knows no control beside
-// them; ResetForms puts the controls into their design state.
+// them; form/DesignState.h puts the controls into their design state.
 
 #include <array>
 #include <span>
@@ -112,9 +112,5 @@ Control* AsControl(const ControlRef& control);
 /// The control of that name on the main form, null if there is none or if it has no place. Array
 /// members are named name_index.
 Control* FindControl(const QString& sName);
-
-/// Puts every control of both forms into its design state: place, size, captions, what is hidden,
-/// timers and pictures.
-void ResetForms();
 
 }  // namespace glidetrak

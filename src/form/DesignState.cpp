@@ -1,4 +1,6 @@
-// The design state of the two forms: what ResetForms writes beside the tables' places.
+// What ResetForms writes beside the tables' places.
+
+#include "form/DesignState.h"
 
 #include "form/ControlTable.h"
 #include "form/frmAbout.h"

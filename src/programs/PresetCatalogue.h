@@ -15,7 +15,8 @@ struct PresetRecord {
   QString sHelp;         ///< kept because the configuration file carries it; nothing shows it
 };
 
-/// Indexes 0 to the count; 0 stays empty and is never used. Filled once, by start-up.
+/// Indexes 0 to the count; 0 stays empty and is never used. Filled once, by
+/// LoadPresetCatalogue.
 inline std::vector<PresetRecord> Presets;
 
 /// Reads the catalogue and every pre-set's text, and fills the list. Reports nothing.

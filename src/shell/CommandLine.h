@@ -6,7 +6,8 @@
 
 namespace glidetrak {
 
-/// The Control Program file named on the command line, or "".
+/// The Control Program file named on the command line, or "". Written by ParseCommandLine, as the
+/// two below it.
 inline QString sCommandLineFile;
 
 /// /SIMSTART was there, and the value of /UNITS. Read by nobody.

@@ -6,7 +6,7 @@
 
 namespace glidetrak {
 
-/// Value of the key SWFILE of the configuration. Read by nobody.
+/// Value of the key SWFILE of the configuration. Written once by Form_Load, read by nobody.
 inline QString sSimulationFile;
 
 /// The ordered start-up. Each step that fails is passed over and the next one runs; nothing is told

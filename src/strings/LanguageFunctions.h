@@ -10,8 +10,8 @@
 
 namespace glidetrak {
 
-/// The language of the texts; 0 until it is decided, then never changed. Decided by the first
-/// LoadText, or earlier by SetUILanguage.
+/// Code of the language of the texts; 0 until it is decided, then never changed. Written by
+/// GetCurrentLanguage, at the first LoadText, or earlier by SetUILanguage.
 inline qint16 iUILanguage = 0;
 
 /// Decides and keeps iUILanguage; the code of the texts' language.

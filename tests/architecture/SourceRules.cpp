@@ -66,7 +66,50 @@ QString RoomFault(const QString& sRoom, const QString& sIncluded) {
   return sRoom + " includes " + sIncluded + ", which is not below it";
 }
 
+/// A path without its ending.
+QString ModuleOf(const QString& sPath) {
+  return sPath.section(u'.', 0, 0);
+}
+
+/// By module the modules that it includes.
+using Arrows = std::map<QString, std::set<QString>>;
+
+Arrows ReadArrows(const std::vector<SourceFile>& aFiles) {
+  Arrows arrows;
+  for (const SourceFile& file : aFiles) {
+    const QString sModule = ModuleOf(file.sPath);
+    EachInclude(file.sText, "\"([^\"]+)\"", [&](const QString& sIncluded, int) {
+      if (ModuleOf(sIncluded) != sModule) arrows[sModule].insert(ModuleOf(sIncluded));
+    });
+  }
+  return arrows;
+}
+
+/// Follows the arrows from a module; aRoad is the way to it, `seen` what was followed before.
+void FollowArrows(const Arrows& arrows, const QString& sModule, QStringList& aRoad,
+                  std::set<QString>& seen, QStringList& aCircles) {
+  if (const qsizetype iStart = aRoad.indexOf(sModule); iStart >= 0) {
+    aCircles.append((aRoad.mid(iStart) + QStringList{sModule}).join(" -> "));
+    return;
+  }
+  if (!seen.insert(sModule).second || !arrows.contains(sModule)) return;
+  aRoad.append(sModule);
+  for (const QString& sNext : arrows.at(sModule)) {
+    FollowArrows(arrows, sNext, aRoad, seen, aCircles);
+  }
+  aRoad.removeLast();
+}
+
 }  // namespace
+
+QStringList Circles(const std::vector<SourceFile>& aFiles) {
+  const Arrows arrows = ReadArrows(aFiles);
+  QStringList aCircles;
+  QStringList aRoad;
+  std::set<QString> seen;
+  for (const auto& [sModule, aNext] : arrows) FollowArrows(arrows, sModule, aRoad, seen, aCircles);
+  return aCircles;
+}
 
 QStringList RoomViolations(const SourceFile& file) {
   const QString sRoom = RoomOf(file.sPath);

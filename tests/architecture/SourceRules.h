@@ -6,6 +6,7 @@
 #include <QString>
 #include <QStringList>
 #include <set>
+#include <vector>
 
 namespace glidetrak {
 
@@ -22,6 +23,10 @@ using WindowHeaders = std::set<QString>;
 
 /// A room includes itself and those below it that its row names, never one beside or above.
 QStringList RoomViolations(const SourceFile& file);
+
+/// A header and the source of its name are one module; inside a room too no arrow comes back to
+/// where it began. One line for each circle found, its modules in their order.
+QStringList Circles(const std::vector<SourceFile>& aFiles);
 
 /// Nobody but the view knows a window toolkit; main.cpp may start the application.
 QStringList WindowHeaderViolations(const SourceFile& file, const WindowHeaders& headers);

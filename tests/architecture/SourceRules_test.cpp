@@ -26,6 +26,20 @@ const IncludeRow IncludesAllowed[] = {
     {"track/OutputImage.cpp", "// language/ stands above"},
 };
 
+TEST(CircleRule, FindsAPlantedCircle) {
+  EXPECT_EQ(Circles({{"a/One.cpp", "#include \"a/One.h\"\n#include \"a/Two.h\"\n"},
+                     {"a/Two.h", "#include \"a/Three.h\"\n"},
+                     {"a/Three.cpp", "#include \"a/One.h\"\n"}}),
+            QStringList{"a/One -> a/Two -> a/Three -> a/One"});
+}
+
+TEST(CircleRule, TakesAHeaderAndItsSourceForOne) {
+  EXPECT_EQ(Circles({{"a/One.cpp", "#include \"a/One.h\"\n#include \"a/Two.h\"\n"},
+                     {"a/Two.cpp", "#include \"a/Two.h\"\n"},
+                     {"b/Two.cpp", "#include \"a/One.h\"\n"}}),
+            QStringList());
+}
+
 TEST(RoomRule, AllowsARoomBelowAndTheRoomItself) {
   for (const IncludeRow& row : IncludesAllowed) {
     EXPECT_EQ(RoomViolations({row.sPath, row.sLine}), QStringList()) << row.sLine.toStdString();

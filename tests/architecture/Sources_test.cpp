@@ -60,6 +60,10 @@ TEST(Sources, IncludeOnlyRoomsBelowThem) {
   ExpectEveryFileKeeps(RoomViolations);
 }
 
+TEST(Sources, IncludeOneAnotherInNoCircle) {
+  EXPECT_EQ(Circles(ReadSources()), QStringList());
+}
+
 ReferenceTakers ReadTakers(const std::vector<SourceFile>& aFiles) {
   ReferenceTakers takers;
   for (const SourceFile& file : aFiles) CollectTakers(file.sText, takers);

@@ -1,8 +1,8 @@
 // The program editor: changes, the double click, the reset.
 
+#include "files/PresetTest.h"
 #include "language/Keywords.h"
 #include "language/RunState.h"
-#include "files/PresetTest.h"
 #include "track/OutputImage.h"
 
 namespace glidetrak {

@@ -5,6 +5,7 @@
 #include <set>
 
 #include "form/ControlTable.h"
+#include "form/DesignState.h"
 #include "form/frmAbout.h"
 #include "form/frmGlidetrak.h"
 #include "station/Print.h"

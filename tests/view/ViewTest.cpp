@@ -2,6 +2,7 @@
 
 #include <QApplication>
 
+#include "form/DesignState.h"
 #include "strings/LanguageFunctions.h"
 #include "strings/ResourceStrings.h"
 

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "form/ControlTable.h"
+#include "form/DesignState.h"
 #include "form/frmAbout.h"
 #include "form/frmGlidetrak.h"
 #include "hardware/USBIntegration.h"
