@@ -34,7 +34,7 @@ TEST(Emergency, ActsOnTheFirstPressWhileAMenuIsOpen) {
 TEST(Emergency, ActsOnTheFirstPressWhileAMenuOpenedByKeysIsOpen) {
   RecordedStation station;
   ASSERT_TRUE(station.Drive());
-  Wait(6500);
+  ASSERT_TRUE(station.CloseStartupBox());
   station.Key("alt+f");
   station.Click(placeEmergency);
   EXPECT_TRUE(Stops(station));
@@ -44,7 +44,7 @@ TEST(Emergency, ActsOnTheFirstPressWhileAMenuOpenedByKeysIsOpen) {
 TEST(Emergency, ActsOnTheFirstPressWhileTheListOfPresetsIsOpen) {
   RecordedStation station;
   ASSERT_TRUE(station.Launch({station.WriteProgram("drive.gtp", "POWER 9\r\nHALT\r\n")}));
-  Wait(6500);
+  ASSERT_TRUE(station.CloseStartupBox());
   station.Click(placeProgram);
   station.Click(placeTrace);
   ASSERT_TRUE(WaitUntil([&] { return station.LastByte() == 0x19; }));
@@ -59,7 +59,7 @@ TEST_P(EmergencyKey, ReachesTheButtonUnder) {
   const QString sOver = GetParam();
   RecordedStation station;
   ASSERT_TRUE(station.Launch({station.WriteProgram("wrong.gtp", "POWER 9\r\nNONSENSE\r\n")}));
-  if (sOver != "start-up box") Wait(6500);
+  ASSERT_TRUE(sOver == "start-up box" || station.CloseStartupBox());
   if (sOver == "Control Program Error") {
     station.Click(placeProgram);
     station.Click(placeRun);
@@ -84,7 +84,7 @@ TEST(Emergency, TheKeysWorkAfterAClickBehindAnOpenBox) {
   RecordedStation station;
   ASSERT_TRUE(station.StartWindowManager());
   ASSERT_TRUE(station.Launch());
-  Wait(6800);
+  ASSERT_TRUE(station.CloseStartupBox());
   station.Key("alt+f");
   station.Key("x");
   ASSERT_TRUE(station.HasWindow("^Close Software$"));

@@ -108,7 +108,7 @@ TEST_P(OpenBox, IsNoHindranceToATermination) {
   const QString sTitle = GetParam();
   RecordedStation station;
   ASSERT_TRUE(station.Launch({station.WriteProgram("wrong.gtp", "POWER 9\r\nNONSENSE\r\n")}));
-  Wait(6500);  // the start-up box would take the keys
+  ASSERT_TRUE(station.CloseStartupBox());
   if (sTitle == "Control Program Error") {
     station.Click(placeProgram);
     station.Click(placeRun);

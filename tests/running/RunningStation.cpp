@@ -10,7 +10,9 @@ namespace glidetrak {
 
 namespace {
 
-constexpr int iStartupBox = 6800;  ///< the start-up box stays for six seconds
+constexpr Place placeStartupClose{304,
+                                  197};  ///< in the start-up box, which else stays for six seconds
+const char* const sStartupTitle = "^ $";
 const char* const sMainTitle = "Glidetrak Control|Control del sistema Glidetrak";
 
 QByteArray ReadWhole(const QString& sPath) {
@@ -65,9 +67,16 @@ bool RunningStation::Launch(const QStringList& aArguments) {
 }
 
 bool RunningStation::Start(const QStringList& aArguments) {
-  if (!Launch(aArguments)) return false;
-  Wait(iStartupBox);
-  return IsRunning();
+  return Launch(aArguments) && CloseStartupBox() && IsRunning();
+}
+
+bool RunningStation::CloseStartupBox() {
+  if (!HasWindow(sStartupTitle)) return false;
+  const QStringList aGeometry = Geometry(sStartupTitle).split(u' ');
+  Wait(100);
+  Click({aGeometry.value(0).toInt() + placeStartupClose.iX,
+         aGeometry.value(1).toInt() + placeStartupClose.iY});
+  return HasNoWindow(sStartupTitle);
 }
 
 void RunningStation::Kill() {

@@ -82,8 +82,10 @@ class RunningStation {
   /// Starts the station, up to its window; the start-up box comes next. Serves the rig first when
   /// none is served yet. False without a window.
   bool Launch(const QStringList& aArguments = {});
-  /// The same, up to where the start-up box has gone.
+  /// The same, up to where the start-up box was closed.
   bool Start(const QStringList& aArguments = {});
+  /// Closes the start-up box as soon as it is there, by its picture.
+  bool CloseStartupBox();
   /// Starts with first.gtp and types changes that are not saved.
   bool StartWithChanges();
   /// Starts another copy for the same user.
