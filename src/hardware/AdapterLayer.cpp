@@ -84,6 +84,18 @@ bool OweLastByte() {
   return bLinkUp && !std::exchange(bRigLetGo, true);
 }
 
+/// The last byte alone, on USB by the road given.
+void WriteLastByte(void (*usbRoad)()) {
+  if (!OweLastByte()) return;
+  SkipOnError([usbRoad] {
+    if (bUsbLink) {
+      usbRoad();
+    } else {
+      WriteAdapter(lPortAddress, 0);
+    }
+  });
+}
+
 void ReleaseRig() {
   if (!OweLastByte()) return;
   if (bUsbLink) {
@@ -172,25 +184,11 @@ void ShutDownHardware() {
 }
 
 void StopRigAtEnd() {
-  if (!OweLastByte()) return;
-  SkipOnError([] {
-    if (bUsbLink) {
-      UsbWriteOutput(0);
-    } else {
-      WriteAdapter(lPortAddress, 0);
-    }
-  });
+  WriteLastByte([] { UsbWriteOutput(0); });
 }
 
 void StopRigInCrash() {
-  if (!OweLastByte()) return;
-  SkipOnError([] {
-    if (bUsbLink) {
-      UsbWriteZeroInCrash();
-    } else {
-      WriteAdapter(lPortAddress, 0);
-    }
-  });
+  WriteLastByte(UsbWriteZeroInCrash);
 }
 
 }  // namespace glidetrak

@@ -26,6 +26,16 @@ class Focus : public ViewTest {
     m_aNotes.clear();
   }
 
+  /// Idle, with the focus in a list that is dropped down.
+  void ShowOpenList() {
+    cmbExamples.Visible = true;
+    cmbExamples.List = QStringList{"one"};
+    ShowIdle();
+    cmbExamples.SetFocus();
+    cmbExamples.OpenDropDown(true);
+    Settle();
+  }
+
   QStringList m_aNotes;
 };
 
@@ -154,12 +164,7 @@ TEST_F(Focus, StaysWhereAnotherControlGoesAway) {
 }
 
 TEST_F(Focus, OfAListThatGoesAwayUnderItsDropDownComesToTheKeeper) {
-  cmbExamples.Visible = true;
-  cmbExamples.List = QStringList{"one"};
-  ShowIdle();
-  cmbExamples.SetFocus();
-  cmbExamples.OpenDropDown(true);
-  Settle();
+  ShowOpenList();
   cmbExamples.Visible = false;
   Settle();
   EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
@@ -211,12 +216,7 @@ TEST_F(Focus, ChangesWhileAnotherWindowIsActive) {
 }
 
 TEST_F(Focus, IsNotLostToTheListsOwnDropDown) {
-  cmbExamples.Visible = true;
-  cmbExamples.List = QStringList{"one"};
-  ShowIdle();
-  cmbExamples.SetFocus();
-  cmbExamples.OpenDropDown(true);
-  Settle();
+  ShowOpenList();
   cmbExamples.OpenDropDown(false);
   Settle();
   EXPECT_TRUE(m_aNotes.isEmpty());
