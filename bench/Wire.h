@@ -2,10 +2,10 @@
 
 // The wire between a served rig and those who speak to it, as bytes and nothing more. What the
 // bytes mean stands in WireProtocol.h; how they travel stands in one source file for each system
-// (WireUnix.cpp: a Unix socket).
+// (WireUnix.cpp: a Unix socket; WireWindows.cpp: a named pipe).
 //
 // Everything has a limit: a connection is told how long it may wait, and a server never waits for
-// one client. Only the user whose rig it is, and root, are listened to.
+// one client. Only the user whose rig it is, and on Unix root, are listened to.
 
 #include <chrono>
 #include <cstddef>
@@ -19,7 +19,8 @@
 namespace glidetrak::bench {
 
 /// Where the rig of this user is served: the environment's GLIDETRAK_BENCH_SOCKET, else a place of
-/// the system. Throws std::runtime_error when that place belongs to somebody else.
+/// the system. On Windows the name of a pipe of this machine, "\\.\pipe\..." in UTF-8. Throws
+/// std::runtime_error when that place belongs to somebody else or cannot be told.
 std::string WireName();
 
 /// The client's end. Holds no memory, so that it can be left as it is when a process ends.

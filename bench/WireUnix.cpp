@@ -12,6 +12,7 @@
 #include <thread>
 #include <vector>
 
+#include "bench/ServedTalk.h"
 #include "bench/SocketPlace.h"
 #include "bench/Wire.h"
 
@@ -124,58 +125,42 @@ namespace {
 class Client {
  public:
   Client(FileDescriptor file, std::unique_ptr<Conversation> conversation)
-      : m_file(std::move(file)), m_conversation(std::move(conversation)) {}
+      : m_file(std::move(file)), m_talk(std::move(conversation)) {}
 
   /// While an answer waits to be fetched nothing more is read.
   pollfd Wait() const {
-    return {m_file.Number(), static_cast<short>(m_sToSend.empty() ? POLLIN : POLLOUT), 0};
+    return {m_file.Number(), static_cast<short>(m_talk.sToSend.empty() ? POLLIN : POLLOUT), 0};
   }
 
   /// Receives, answers and sends as far as it goes without waiting.
   void Work() {
-    if (m_sToSend.empty()) Receive();
+    if (m_talk.sToSend.empty()) Receive();
     Send();
-    while (m_sToSend.empty() && !m_bHungUp) {
-      const Turn turn = m_conversation->Take(m_sReceived, m_sToSend);
-      m_bHungUp = turn == Turn::HangUp || (turn == Turn::Wait && m_bEnded);
-      if (turn == Turn::Wait) return;
-      m_iAnswers = std::min(m_iAnswers + 1, 2);  // it matters whether there was a second
-      Send();
-    }
+    while (m_talk.TakeMessage()) Send();
   }
 
-  /// There is nothing more to be done for it.
-  bool Done() const { return m_bHungUp && m_sToSend.empty(); }
-
-  /// The first in this order is the first to go.
-  std::pair<bool, Clock::time_point> Worth() const { return {m_iAnswers > 1, m_heard}; }
+  bool Done() const { return m_talk.Done(); }
+  auto Worth() const { return m_talk.Worth(); }
 
  private:
   void Receive() {
     char aBytes[iMostUnread];
-    const size_t iRoom = iMostUnread - m_sReceived.size();
-    const ssize_t iCount = recv(m_file.Number(), aBytes, iRoom, 0);
-    if (iCount > 0) m_sReceived.append(aBytes, static_cast<size_t>(iCount));
-    if (iCount > 0) m_heard = Clock::now();
-    if (iCount == 0 || (iCount < 0 && !IsForLater(iCount))) m_bEnded = true;
+    const ssize_t iCount = recv(m_file.Number(), aBytes, m_talk.Room(), 0);
+    if (iCount > 0) m_talk.Hear({aBytes, static_cast<size_t>(iCount)});
+    if (iCount == 0 || (iCount < 0 && !IsForLater(iCount))) m_talk.HearEnd();
   }
 
   void Send() {
-    if (m_sToSend.empty()) return;
-    const ssize_t iCount = send(m_file.Number(), m_sToSend.data(), m_sToSend.size(), MSG_NOSIGNAL);
-    if (iCount > 0) m_sToSend.erase(0, static_cast<size_t>(iCount));
+    std::string& sToSend = m_talk.sToSend;
+    if (sToSend.empty()) return;
+    const ssize_t iCount = send(m_file.Number(), sToSend.data(), sToSend.size(), MSG_NOSIGNAL);
+    if (iCount > 0) sToSend.erase(0, static_cast<size_t>(iCount));
     // Nobody reads any more; what was sent to us may still have to be carried out.
-    if (iCount < 0 && !IsForLater(iCount)) m_sToSend.clear();
+    if (iCount < 0 && !IsForLater(iCount)) sToSend.clear();
   }
 
   FileDescriptor m_file;
-  std::unique_ptr<Conversation> m_conversation;
-  std::string m_sReceived;
-  std::string m_sToSend;
-  Clock::time_point m_heard = Clock::now();
-  int m_iAnswers = 0;
-  bool m_bEnded = false;   ///< the other side sends nothing more
-  bool m_bHungUp = false;  ///< nothing more is taken
+  ServedTalk m_talk;
 };
 
 }  // namespace
