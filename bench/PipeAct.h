@@ -46,11 +46,11 @@ class PipeAct {
   /// Set as soon as the act is over, in whatever way, and until another is begun.
   HANDLE Event() const { return m_event.Get(); }
 
-  bool IsOver() const { return WaitForSingleObject(Event(), 0) == WAIT_OBJECT_0; }
+  bool IsOver() const { return !m_bUnderWay || HasOverlappedIoCompleted(&m_overlapped); }
 
   /// Has it over at once; what it has done until then counts.
   void CallOff() {
-    if (m_bUnderWay && !IsOver()) CancelIoEx(m_pipe, &m_overlapped);
+    if (!IsOver()) CancelIoEx(m_pipe, &m_overlapped);
   }
 
   /// Waits until it is over. The bytes that were carried; nothing when it failed or none was begun.

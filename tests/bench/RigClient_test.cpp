@@ -4,7 +4,7 @@
 
 #include <optional>
 
-#include "BenchFolder.h"
+#include "BenchPlace.h"
 
 namespace glidetrak::bench {
 namespace {
@@ -24,15 +24,15 @@ class Parrot : public Conversation {
   std::string m_sText;
 };
 
-class RigClientTest : public BenchFolder {
+class RigClientTest : public BenchPlace {
  protected:
   void ServeParrot(const std::string& sText) {
-    m_parrot.emplace(SocketPath(), [=] { return std::make_unique<Parrot>(sText); });
+    m_parrot.emplace(Place(), [=] { return std::make_unique<Parrot>(sText); });
   }
 
   std::string Failure(const std::string& sLine = "state") const {
     try {
-      return "answer: " + AskRig(SocketPath(), sLine);
+      return "answer: " + AskRig(Place(), sLine);
     } catch (const std::runtime_error& failure) {
       return failure.what();
     }
@@ -52,42 +52,42 @@ class RigClientTest : public BenchFolder {
 };
 
 TEST_F(RigClientTest, CommandsReachTheRig) {
-  ServedRig rig(SocketPath());
-  EXPECT_EQ(AskRig(SocketPath(), "place 1000"), "");
-  EXPECT_EQ(AskRig(SocketPath(), "state").rfind("position 1000 mm\n", 0), 0u);
+  ServedRig rig(Place());
+  EXPECT_EQ(AskRig(Place(), "place 1000"), "");
+  EXPECT_EQ(AskRig(Place(), "state").rfind("position 1000 mm\n", 0), 0u);
   EXPECT_EQ(rig.Position(), 1000);
 }
 
 TEST_F(RigClientTest, AFullRecordComesWhole) {
-  const ServedRig rig(SocketPath());
+  const ServedRig rig(Place());
   for (int i = 0; i < 1500; ++i) ASSERT_EQ(m_client.Exchange(RigAct::WriteByte, i & 0xFF), 0);
-  const std::string sLog = AskRig(SocketPath(), "log");
+  const std::string sLog = AskRig(Place(), "log");
   EXPECT_EQ(sLog.rfind("501: ", 0), 0u);
   EXPECT_NE(sLog.find("\n1500: "), std::string::npos);
 }
 
 TEST_F(RigClientTest, ARefusedCommandIsTold) {
-  const ServedRig rig(SocketPath());
+  const ServedRig rig(Place());
   EXPECT_EQ(Failure("fly"), "the rig refused: no such command");
   EXPECT_EQ(Failure(std::string(300, ' ') + "state"),
             "the rig refused: a line has at most 255 characters");
 }
 
 TEST_F(RigClientTest, NobodyAnswers) {
-  EXPECT_EQ(Failure(), "no rig answers at " + SocketPath());
+  EXPECT_EQ(Failure(), "no rig answers at " + Place());
   EXPECT_EQ(m_client.Exchange(RigAct::ReadInputs), std::nullopt);
 }
 
 TEST_F(RigClientTest, ARigOfAnotherVersionIsToldAndIsNoAdapter) {
   ServeParrot("glidetrak-bench 2\n\1\1");
-  EXPECT_EQ(Failure(), "the rig at " + SocketPath() +
-                           " speaks version 2 of the wire, and this program version 1");
+  EXPECT_EQ(Failure(),
+            "the rig at " + Place() + " speaks version 2 of the wire, and this program version 1");
   EXPECT_EQ(m_client.StartAgain(RigAct::AskAdapter), std::nullopt);
 }
 
 TEST_F(RigClientTest, WhatIsNoRigIsToldAndIsNoAdapter) {
   ServeParrot("HTTP/1.1 400 Bad Request\r\n\r\n");
-  EXPECT_EQ(Failure(), "what answers at " + SocketPath() + " is no bench rig");
+  EXPECT_EQ(Failure(), "what answers at " + Place() + " is no bench rig");
   EXPECT_EQ(m_client.StartAgain(RigAct::AskAdapter), std::nullopt);
 }
 
@@ -95,7 +95,7 @@ TEST_F(RigClientTest, AnAnswerThatMakesNoSenseIsNone) {
   for (const char* sAnswer :
        {"ok\n", "ok -1\n", "ok 99999999999999\n", "ok 5 \n", "okay\n", "ok 5\nab"}) {
     ServeParrot(Greeting() + sAnswer);
-    EXPECT_EQ(Failure(), "the rig at " + SocketPath() + " does not answer") << sAnswer;
+    EXPECT_EQ(Failure(), "the rig at " + Place() + " does not answer") << sAnswer;
     m_parrot.reset();
   }
 }
@@ -119,36 +119,36 @@ TEST_F(RigClientTest, ASilentRigCostsAnExchangeItsTimeOnceAndNoMore) {
 
 /// The system's queue takes some connections that nobody accepts, and then none.
 TEST_F(RigClientTest, AServerThatNeverAcceptsHoldsNobodyForLong) {
-  const WireServer stopped(SocketPath());
+  const WireServer stopped(Place());
   std::vector<WireConnection> aQueue;
   for (int i = 0; i < 40; ++i) {
     WireConnection connection;
-    if (!connection.Connect(SocketPath())) break;
+    if (!connection.Connect(Place())) break;
     aQueue.push_back(std::move(connection));
   }
   ASSERT_LT(aQueue.size(), 40u);
   EXPECT_LT(TimeOf([&] { m_client.StartAgain(RigAct::AskAdapter); }), 1000);
-  EXPECT_LT(TimeOf([&] { EXPECT_EQ(Failure(), "no rig answers at " + SocketPath()); }), 4000);
+  EXPECT_LT(TimeOf([&] { EXPECT_EQ(Failure(), "no rig answers at " + Place()); }), 4000);
 }
 
 TEST_F(RigClientTest, ARigThatWentIsFoundAgainByStartingAgain) {
-  std::optional<ServedRig> rig(std::in_place, SocketPath());
+  std::optional<ServedRig> rig(std::in_place, Place());
   EXPECT_EQ(m_client.Exchange(RigAct::ReadInputs), 0x88);
   rig.reset();
   EXPECT_EQ(m_client.Exchange(RigAct::ReadInputs), std::nullopt);
-  rig.emplace(SocketPath());
+  rig.emplace(Place());
   EXPECT_EQ(m_client.Exchange(RigAct::ReadInputs), std::nullopt) << "not by itself";
   EXPECT_EQ(m_client.StartAgain(RigAct::AskAdapter), 1);
   EXPECT_EQ(m_client.Exchange(RigAct::ReadInputs), 0x88);
 }
 
 TEST_F(RigClientTest, TwoClientsSpeakToOneRig) {
-  const ServedRig rig(SocketPath());
+  const ServedRig rig(Place());
   RigClient other;
   EXPECT_EQ(m_client.Exchange(RigAct::WriteByte, 0x18), 0);
-  EXPECT_NE(AskRig(SocketPath(), "state").find("power 8\n"), std::string::npos);
+  EXPECT_NE(AskRig(Place(), "state").find("power 8\n"), std::string::npos);
   EXPECT_EQ(other.Exchange(RigAct::WriteByte, 0), 0);
-  EXPECT_NE(AskRig(SocketPath(), "state").find("power 0\n"), std::string::npos);
+  EXPECT_NE(AskRig(Place(), "state").find("power 0\n"), std::string::npos);
 }
 
 }  // namespace

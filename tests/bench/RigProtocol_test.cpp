@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "bench/ReportDescriptor.h"
-
 namespace glidetrak::bench {
 namespace {
 
@@ -67,19 +65,6 @@ TEST(RigProtocol, RefusesWhatIsNoCommand) {
   EXPECT_TRUE(AnswerReport(rig, {5, 0, 0}, 64).empty());
   EXPECT_TRUE(AnswerReport(rig, ReportBytes(16, 4), 64).empty());
   EXPECT_EQ(rig.Track().Power(), 0);
-}
-
-TEST(ReportDescriptor, DeclaresTwoReportsOfBytes) {
-  const ReportBytes expected{0x06, 0x00, 0xFF, 0x09, 0x01, 0xA1, 0x01, 0x15, 0x00, 0x26,
-                             0xFF, 0x00, 0x75, 0x08, 0x96, 0x40, 0x00, 0x09, 0x01, 0x81,
-                             0x02, 0x96, 0x2C, 0x01, 0x09, 0x01, 0x91, 0x02, 0xC0};
-  EXPECT_EQ(ReportDescriptor(64, 300), expected);
-}
-
-TEST(ReportDescriptor, LengthZeroLeavesTheReportOut) {
-  const ReportBytes expected{0x06, 0x00, 0xFF, 0x09, 0x01, 0xA1, 0x01, 0x15, 0x00, 0x26, 0xFF,
-                             0x00, 0x75, 0x08, 0x96, 0x08, 0x00, 0x09, 0x01, 0x81, 0x02, 0xC0};
-  EXPECT_EQ(ReportDescriptor(8, 0), expected);
 }
 
 }  // namespace

@@ -1,14 +1,12 @@
 // The two libraries trackport32 as the station meets them: loaded at run time, operations looked up
 // by name.
 
-#include <dlfcn.h>
-
 #include <cstdint>
-#include <memory>
 #include <optional>
 
-#include "BenchFolder.h"
+#include "BenchPlace.h"
 #include "bench/RigClient.h"
+#include "bench/trackport32.h"
 
 namespace glidetrak::bench {
 namespace {
@@ -20,34 +18,29 @@ constexpr int lAddress = 0x378;
 
 class Library {
  public:
-  explicit Library(const char* sPath) : m_pLibrary(dlopen(sPath, RTLD_NOW | RTLD_LOCAL)) {
-    EXPECT_NE(m_pLibrary, nullptr) << dlerror();
-  }
-  ~Library() { dlclose(m_pLibrary); }
-  Library(const Library&) = delete;
-  Library& operator=(const Library&) = delete;
+  explicit Library(const char* sPath) : m_library(sPath) {}
 
-  void* Find(const char* sOperation) const { return dlsym(m_pLibrary, sOperation); }
+  void* Find(const char* sOperation) const { return m_library.Find(sOperation); }
 
   template <typename... Numbers>
   std::int32_t Call(const char* sOperation, Numbers... numbers) const {
-    using Operation = std::int32_t (*)(Numbers...);
+    using Operation = std::int32_t(TRACKPORT_CALL*)(Numbers...);
     return reinterpret_cast<Operation>(Find(sOperation))(numbers...);
   }
 
  private:
-  void* m_pLibrary;
+  const LoadedLibrary m_library;
 };
 
-class BenchLibrary : public BenchFolder {
+class BenchLibrary : public BenchPlace {
  protected:
-  std::string State() const { return AskRig(SocketPath(), "state"); }
+  std::string State() const { return AskRig(Place(), "state"); }
 
   bool Shows(const std::string& sLine) const {
     return State().find(sLine + "\n") != std::string::npos;
   }
 
-  std::optional<ServedRig> m_rig{std::in_place, SocketPath()};
+  std::optional<ServedRig> m_rig{std::in_place, Place()};
   const Library m_library{TRACKPORT32_BENCH};
 };
 
@@ -81,7 +74,7 @@ TEST_F(BenchLibrary, ARigThatIsServedAgainIsFoundByTheNextLookForTheAdapter) {
   ASSERT_EQ(m_library.Call("ReadAdapter", lAddress), 0x88);
   m_rig.reset();
   EXPECT_EQ(m_library.Call("ReadAdapter", lAddress), 0);
-  m_rig.emplace(SocketPath());
+  m_rig.emplace(Place());
   EXPECT_EQ(m_library.Call("ReadAdapter", lAddress), 0);
   EXPECT_EQ(m_library.Call("IsAdapterConnected", lAddress), 1);
   EXPECT_EQ(m_library.Call("ReadAdapter", lAddress), 0x88);
@@ -98,7 +91,7 @@ TEST_F(BenchLibrary, TheRigKeepsItsByteWhenTheLibraryGoes) {
 TEST_F(BenchLibrary, InputByteIsThatOfTheModel) {
   EXPECT_EQ(m_library.Call("ReadAdapter", lAddress), 0x88);
   EXPECT_EQ(m_library.Call("ReadAdapter", 0), 0);
-  AskRig(SocketPath(), "press CITY_CALL 60000");
+  AskRig(Place(), "press CITY_CALL 60000");
   EXPECT_EQ(m_library.Call("ReadAdapter", lAddress), 0x8A);
 }
 
@@ -115,41 +108,41 @@ TEST_F(BenchLibrary, WrittenByteDrivesTheVehicleThroughBothGates) {
 
 TEST_F(BenchLibrary, WriteToAnotherAddressDoesNothing) {
   m_library.Call("WriteAdapter", 0x278, 0x1F);
-  EXPECT_EQ(AskRig(SocketPath(), "log"), "");
+  EXPECT_EQ(AskRig(Place(), "log"), "");
 }
 
 TEST_F(BenchLibrary, AnalogValueComesFromAnImpact) {
   EXPECT_EQ(m_library.Call("ReadAtoD", lAddress, 50000), 0);
-  AskRig(SocketPath(), "place 1800");
+  AskRig(Place(), "place 1800");
   m_library.Call("WriteAdapter", lAddress, 0x1F);
   EXPECT_TRUE(WaitFor([&] { return m_library.Call("ReadAtoD", lAddress, 50000) > 5; }));
 }
 
 TEST_F(BenchLibrary, PulledLeadLeavesTheAdapterAndASilentRig) {
-  AskRig(SocketPath(), "unplug");
+  AskRig(Place(), "unplug");
   EXPECT_EQ(m_library.Call("IsAdapterConnected", lAddress), 1);
   EXPECT_EQ(m_library.Call("ReadAdapter", lAddress), 0);
   EXPECT_EQ(m_library.Call("ReadAtoD", lAddress, 50000), 0);
   EXPECT_EQ(m_library.Call("LPTAvailable"), 1);
-  AskRig(SocketPath(), "plug");
+  AskRig(Place(), "plug");
   EXPECT_EQ(m_library.Call("IsAdapterConnected", lAddress), 1);
   EXPECT_EQ(m_library.Call("ReadAdapter", lAddress), 0x88);
 }
 
 TEST_F(BenchLibrary, AnAdapterOffItsPortIsNone) {
-  AskRig(SocketPath(), "detach");
+  AskRig(Place(), "detach");
   EXPECT_EQ(m_library.Call("IsAdapterConnected", lAddress), 0);
   EXPECT_EQ(m_library.Call("ReadAdapter", lAddress), 0);
-  AskRig(SocketPath(), "attach");
+  AskRig(Place(), "attach");
   EXPECT_EQ(m_library.Call("IsAdapterConnected", lAddress), 1);
   EXPECT_EQ(m_library.Call("ReadAdapter", lAddress), 0x88);
 }
 
 TEST_F(BenchLibrary, PulledLeadCarriesNoAnalogValue) {
   m_library.Call("WriteAdapter", lAddress, 0x1F);
-  AskRig(SocketPath(), "place 1800");
+  AskRig(Place(), "place 1800");
   ASSERT_TRUE(WaitFor([&] { return m_library.Call("ReadAtoD", lAddress, 50000) > 5; }));
-  AskRig(SocketPath(), "unplug");
+  AskRig(Place(), "unplug");
   EXPECT_EQ(m_library.Call("ReadAtoD", lAddress, 50000), 0);
 }
 
@@ -164,7 +157,7 @@ TEST_F(BenchLibrary, ShutDownStopsTheVehicle) {
 
 TEST_F(BenchLibrary, OnlyTheLowByteGoesOut) {
   m_library.Call("WriteAdapter", lAddress, 0x1E8);
-  EXPECT_NE(AskRig(SocketPath(), "log").find(" 0xE8 "), std::string::npos);
+  EXPECT_NE(AskRig(Place(), "log").find(" 0xE8 "), std::string::npos);
 }
 
 TEST(StandIn, OffersEveryOperationAndNoPort) {

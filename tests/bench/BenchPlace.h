@@ -1,35 +1,29 @@
 #pragma once
 
-// A folder of a test's own in which a rig can be served, for this process and the ones it starts.
+// A place of a test's own in which a rig can be served, for this process and the ones it starts.
 
 #include <gtest/gtest.h>
-#include <sys/wait.h>
 
 #include <chrono>
-#include <cstdio>
-#include <cstdlib>
-#include <filesystem>
 #include <string>
 #include <thread>
 
+#include "BenchSystem.h"
 #include "bench/LiveRig.h"
 #include "bench/RigConversation.h"
 #include "bench/Wire.h"
 
 namespace glidetrak::bench {
 
-class BenchFolder : public testing::Test {
+class BenchPlace : public testing::Test {
  protected:
-  BenchFolder() {
-    std::string sPattern = testing::TempDir() + "glidetrak-bench-XXXXXX";
-    m_folder = mkdtemp(sPattern.data());
-    setenv("GLIDETRAK_BENCH_SOCKET", SocketPath().c_str(), 1);
-  }
-  ~BenchFolder() override { std::filesystem::remove_all(m_folder); }
+  BenchPlace() { SetVariable("GLIDETRAK_BENCH_SOCKET", Place()); }
+  ~BenchPlace() override { RemovePlace(m_sPlace); }
 
-  std::string SocketPath() const { return (m_folder / "rig.socket").string(); }
+  const std::string& Place() const { return m_sPlace; }
 
-  std::filesystem::path m_folder;
+ private:
+  const std::string m_sPlace = MakePlace();
 };
 
 /// A server that serves from a thread of its own until it goes.
@@ -99,22 +93,6 @@ bool WaitFor(Condition condition) {
     std::this_thread::sleep_for(std::chrono::milliseconds(10));
   }
   return false;
-}
-
-/// What a command printed, both streams as one, and its exit code.
-struct ShellResult {
-  std::string sText;
-  int iExitCode = -1;
-};
-
-inline ShellResult Shell(const std::string& sCommand) {
-  ShellResult result;
-  FILE* pPipe = popen(("exec 2>&1; " + sCommand).c_str(), "r");
-  char aPiece[256];
-  while (std::fgets(aPiece, sizeof aPiece, pPipe) != nullptr) result.sText += aPiece;
-  const int iStatus = pclose(pPipe);
-  result.iExitCode = WIFEXITED(iStatus) ? WEXITSTATUS(iStatus) : -1;
-  return result;
 }
 
 }  // namespace glidetrak::bench
