@@ -18,7 +18,12 @@ class BenchRig : public BenchPlace {
     return {BENCH_RIG, aArguments};
   }
 
-  static ProgramResult Run(const std::string& sArguments) { return Start(sArguments).Finish(); }
+  /// To its end, which comes within seconds.
+  static ProgramResult Run(const std::string& sArguments) {
+    Program program = Start(sArguments);
+    if (!WaitFor([&] { return program.HasEnded(); })) program.Kill();
+    return program.Finish();
+  }
 
   /// `bench-rig serve`, up to where it can be spoken to.
   Program Serve() const {
