@@ -20,7 +20,7 @@
 #include "form/frmGlidetrak.h"
 #include "language/RunControl.h"
 #include "language/RunState.h"
-#include "platform/linux/LinuxHid.h"
+#include "platform/HidapiHid.h"
 #include "platform/linux/LinuxMachine.h"
 #include "programs/ProgramFiles.h"
 #include "shell/Events.h"
@@ -236,7 +236,7 @@ void Measure(const QString& sWhat) {
 int main(int argc, char** argv) {
   QApplication application(argc, argv);
   ViewDesktop desktop;
-  LinuxHid hid;
+  HidapiHid hid;
   pMachine = &machine;
   pHid = &hid;
   pDesktop = &desktop;

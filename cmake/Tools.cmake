@@ -1,6 +1,6 @@
 # format and format-check: `./test` holds the sources against the second.
 file(GLOB_RECURSE GLIDETRAK_SOURCES CONFIGURE_DEPENDS
-     src/*.cpp src/*.h tests/*.cpp tests/*.h bench/*.cpp bench/*.h benchmarks/*.cpp benchmarks/*.h)
+     src/*.cpp src/*.h tools/*.cpp tests/*.cpp tests/*.h bench/*.cpp bench/*.h benchmarks/*.cpp benchmarks/*.h)
 find_program(CLANG_FORMAT clang-format)
 
 if(CLANG_FORMAT)

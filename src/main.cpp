@@ -7,8 +7,7 @@
 #include "hardware/AdapterLayer.h"
 #include "platform/ProcessEnd.h"
 #include "platform/Suspend.h"
-#include "platform/linux/LinuxHid.h"
-#include "platform/linux/LinuxMachine.h"
+#include "platform/ThisSystem.h"
 #include "shell/Closing.h"
 #include "shell/Events.h"
 #include "shell/StartUp.h"
@@ -18,14 +17,9 @@
 
 int main(int argc, char** argv) {
   QApplication application(argc, argv);
-  glidetrak::LinuxMachine machine;
-  glidetrak::LinuxHid hid;
   glidetrak::ViewDesktop desktop;
-  glidetrak::pMachine = &machine;
-  glidetrak::pHid = &hid;
   glidetrak::pDesktop = &desktop;
-
-  machine.SetActivation([] { glidetrak::MainWindow()->ComeForward(); });
+  glidetrak::UseThisSystem([] { glidetrak::MainWindow()->ComeForward(); });
 
   glidetrak::WatchProcessEnd({[] { glidetrak::frmGlidetrak.FormUnload(); }, glidetrak::StopRigAtEnd,
                               glidetrak::StopRigInCrash});
@@ -33,8 +27,8 @@ int main(int argc, char** argv) {
   glidetrak::ResetForms();
   glidetrak::WireEvents();
   glidetrak::BuildView();
-  glidetrak::Form_Load(machine.CommandLine());
+  glidetrak::Form_Load(glidetrak::pMachine->CommandLine());
   glidetrak::OnSuspend(glidetrak::Form_Suspend);
   QApplication::exec();
-  machine.EndProcess();
+  glidetrak::pMachine->EndProcess();
 }

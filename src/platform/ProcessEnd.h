@@ -3,13 +3,15 @@
 // The roads by which the process can end, watched so that none of them leaves the rig driving.
 //
 //   road                                     what is done
-//   told to end (SIGTERM, SIGHUP, SIGINT,    `terminate`, from the event loop
-//   SIGQUIT)
+//   told to end (SIGTERM, SIGHUP, SIGINT,    `terminate`, from the event loop; where a console
+//   SIGQUIT; Ctrl+C in a console on          closes, `atEnd` too once the system's patience ends
+//   Windows, or its closing)
+//   the user's session is over (Windows)     `atEnd`, without pumping
 //   exit (the display's connection breaks),  `atEnd`, in the thread that ends the process
 //   EndProcess, a return from main
-//   a signal that kills (a crash, abort, an  `inCrash`, in the signal's handler, for a second at
-//   uncaught exception among them)           most; then the process dies of that signal
-//   SIGKILL, _exit, power cut                nothing can be
+//   a signal or an exception that kills      `inCrash`, on a stack of its own, for a second at
+//   (a crash, abort, an uncaught exception)  most; then the process dies of it
+//   SIGKILL, a forced end, _exit, power cut  nothing can be
 //
 // A broken pipe and a file beyond the user's limit are failed writes and end nothing.
 
@@ -25,8 +27,8 @@ struct EndDeeds {
   /// event loop no longer run.
   void (*atEnd)();
 
-  /// The same in the handler of a signal that kills: it must take no memory and no lock that the
-  /// crash may have left in pieces, as far as it can.
+  /// The same behind a crash, on Windows in a thread of its own: it must take no memory and no lock
+  /// that the crash may have left in pieces, as far as it can.
   void (*inCrash)();
 };
 

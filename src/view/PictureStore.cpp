@@ -1,8 +1,9 @@
 #include "view/PictureStore.h"
 
+#include <QFile>
 #include <QPainter>
+#include <QPicture>
 #include <QPixmapCache>
-#include <QSvgRenderer>
 
 /// Stands outside every namespace because the macro declares a function of the resource file.
 static void OpenPictures() {
@@ -22,7 +23,7 @@ bool IsBar(PictureId picture) {
 
 QString FileOf(PictureId picture) {
   for (const PictureFile& row : PictureFiles) {
-    if (row.picture == picture) return QString(":/pictures/%1.svg").arg(row.sFile);
+    if (row.picture == picture) return QString(":/pictures/%1.picture").arg(row.sFile);
   }
   return {};
 }
@@ -44,12 +45,25 @@ void DrawBar(QPainter& painter, PictureId picture, QSizeF size) {
   }
 }
 
-void DrawFile(QPainter& painter, PictureId picture, QSizeF size, Fit fit) {
+QPicture ReadPicture(PictureId picture) {
   static const bool bOpen = (OpenPictures(), true);
   Q_UNUSED(bOpen);
-  QSvgRenderer renderer(FileOf(picture));
-  if (fit == Fit::KeepProportions) renderer.setAspectRatioMode(Qt::KeepAspectRatio);
-  renderer.render(&painter, QRectF(QPointF(), size));
+  QPicture read;
+  QFile file(FileOf(picture));
+  if (file.open(QIODevice::ReadOnly)) read.load(&file);
+  return read;
+}
+
+/// The drawing's own size, stretched to the one that is wanted or fitted into it.
+void DrawFile(QPainter& painter, PictureId picture, QSizeF size, Fit fit) {
+  const QPicture read = ReadPicture(picture);
+  const QSizeF own = read.boundingRect().size();
+  if (own.isEmpty()) return;
+  const QSizeF drawn =
+      own.scaled(size, fit == Fit::KeepProportions ? Qt::KeepAspectRatio : Qt::IgnoreAspectRatio);
+  painter.translate((size.width() - drawn.width()) / 2, (size.height() - drawn.height()) / 2);
+  painter.scale(drawn.width() / own.width(), drawn.height() / own.height());
+  painter.drawPicture(0, 0, read);
 }
 
 QPixmap Draw(PictureId picture, QSize size, qreal fPixelRatio, Fit fit) {

@@ -30,4 +30,4 @@ set(VIEW_SOURCES
   view/ToolkitTexts.cpp
   view/View.cpp
   view/ViewDesktop.cpp)
-qt_add_resources(VIEW_SOURCES view/pictures.qrc)
+glidetrak_pictures(VIEW_SOURCES)

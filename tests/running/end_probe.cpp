@@ -10,7 +10,7 @@
 #include "common/SharedState.h"
 #include "hardware/AdapterLayer.h"
 #include "platform/ProcessEnd.h"
-#include "platform/linux/LinuxHid.h"
+#include "platform/HidapiHid.h"
 #include "platform/linux/LinuxMachine.h"
 
 namespace {
@@ -26,7 +26,7 @@ void LeaveBy(std::string_view sRoad) {
 int main(int argc, char** argv) {
   QCoreApplication application(argc, argv);
   glidetrak::LinuxMachine machine;
-  glidetrak::LinuxHid hid;
+  glidetrak::HidapiHid hid;
   glidetrak::pMachine = &machine;
   glidetrak::pHid = &hid;
   const std::string_view sRoad = argc > 1 ? argv[1] : "";

@@ -12,32 +12,14 @@
 #include <cstring>
 #include <ctime>
 
-#include "platform/ConfigurationText.h"
 #include "platform/ProcessEnd.h"
+#include "platform/TrackportCall.h"
 #include "platform/linux/LinuxLanguage.h"
 #include "platform/linux/LinuxSettings.h"
 
 namespace glidetrak {
 
 namespace {
-
-using NoArguments = qint32 (*)();
-using OneArgument = qint32 (*)(qint32);
-using TwoArguments = qint32 (*)(qint32, qint32);
-
-qint32 CallOperation(QFunctionPointer operation, std::initializer_list<qint32> arguments) {
-  const qint32* pArguments = arguments.begin();
-  switch (arguments.size()) {
-    case 0:
-      return reinterpret_cast<NoArguments>(operation)();
-    case 1:
-      return reinterpret_cast<OneArgument>(operation)(pArguments[0]);
-    case 2:
-      return reinterpret_cast<TwoArguments>(operation)(pArguments[0], pArguments[1]);
-    default:
-      throw RuntimeError(Fault::PlatformCall);
-  }
-}
 
 constexpr auto forWriting = QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Unbuffered;
 
@@ -148,14 +130,7 @@ bool LinuxMachine::WriteSetting(Scope scope, const QString& sKey, const QString&
 std::optional<QByteArray> LinuxMachine::ConfigurationValue(const QString& sSection,
                                                            const QString& sKey,
                                                            const QString& sPath) {
-  // The catalogue asks for up to 65,535 keys of one file: it is read again only when it changed.
-  const QFileInfo info(m_paths.Native(sPath));
-  const ReadStamp stamp{info.filePath(), info.size(), info.lastModified()};
-  if (stamp != m_configurationStamp || !info.exists()) {
-    m_configuration = ConfigurationText(ReadFile(sPath));
-    m_configurationStamp = stamp;
-  }
-  return m_configuration.Value(sSection, sKey);
+  return m_configuration.Read(*this, sPath).Value(sSection, sKey);
 }
 
 std::optional<qint32> LinuxMachine::ReadRegistryNumber(Scope scope, const QString& sKey,

@@ -4,11 +4,10 @@
 
 #include <sys/types.h>
 
-#include <QDateTime>
 #include <QHash>
 #include <QLibrary>
 
-#include "platform/ConfigurationText.h"
+#include "platform/KeptConfiguration.h"
 #include "platform/Platform.h"
 #include "platform/linux/LinuxInstance.h"
 #include "platform/linux/LinuxPaths.h"
@@ -48,14 +47,6 @@ class LinuxMachine : public Machine {
   qint32 CallTrackport(const char* sOperation, std::initializer_list<qint32> arguments) override;
 
  private:
-  /// By which a file is known to be the one that was read.
-  struct ReadStamp {
-    QString sNative;
-    qint64 lSize = -1;
-    QDateTime modified;
-    bool operator==(const ReadStamp&) const = default;
-  };
-
   /// An operation of the parallel library; the name is the caller's literal.
   struct Operation {
     const char* sName;
@@ -69,8 +60,7 @@ class LinuxMachine : public Machine {
 
   LinuxPaths m_paths;
   QHash<QString, mode_t> m_aDeletedModes;  ///< of files deleted and not rewritten, by native path
-  ConfigurationText m_configuration;       ///< of the file of m_configurationStamp
-  ReadStamp m_configurationStamp;
+  KeptConfiguration m_configuration;
   LinuxInstance m_instance;
   QLibrary m_trackport;  ///< libtrackport32.so beside the executable, loaded at its first call
   std::vector<Operation> m_aOperations;  ///< those that were called

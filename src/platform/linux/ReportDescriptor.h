@@ -4,14 +4,9 @@
 
 #include <QByteArray>
 
-#include "platform/Hid.h"
+#include "platform/ReportLayout.h"
 
 namespace glidetrak {
-
-struct ReportLayout {
-  HidReportLengths lengths;  ///< of the longest input and output report, the id byte counted
-  bool bNumbered = false;    ///< reports carry an id on the wire
-};
 
 /// Walks the descriptor's items. Fields are bit-sized; a report is rounded up to whole bytes. A
 /// descriptor that is cut short or malformed yields what stood ahead of the fault.

@@ -9,7 +9,7 @@
 #include "HidFile.h"
 #include "hardware/USBIntegration.h"
 #include "hardware/clsUSBHID.h"
-#include "platform/linux/LinuxHid.h"
+#include "platform/HidapiHid.h"
 #include "platform/linux/LinuxMachine.h"
 #include "virtual/VirtualPlatform.h"
 
@@ -55,7 +55,7 @@ class StationHid : public testing::Test {
   bench::LiveRig m_rig;
   VirtualPlatform m_desktop;
   LinuxMachine m_machine;
-  LinuxHid m_devices;
+  HidapiHid m_devices;
   std::optional<bench::UhidDevice> m_device;
   clsUSBHID m_hid;
 };

@@ -1,6 +1,7 @@
 #pragma once
 
-// HID devices through hidapi on hidraw nodes.
+// HID devices through hidapi, which does the same on each system but for the report lengths:
+// ReportLayout.h.
 
 #include <hidapi/hidapi.h>
 
@@ -10,12 +11,12 @@
 
 namespace glidetrak {
 
-class LinuxHid : public Hid {
+class HidapiHid : public Hid {
  public:
-  LinuxHid() = default;
-  ~LinuxHid() override;
-  LinuxHid(const LinuxHid&) = delete;
-  LinuxHid& operator=(const LinuxHid&) = delete;
+  HidapiHid() = default;
+  ~HidapiHid() override;
+  HidapiHid(const HidapiHid&) = delete;
+  HidapiHid& operator=(const HidapiHid&) = delete;
 
   std::vector<HidListing> Devices() override;
   qint32 Open(const QByteArray& path) override;

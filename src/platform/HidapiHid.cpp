@@ -1,32 +1,16 @@
-#include "platform/linux/LinuxHid.h"
+#include "platform/HidapiHid.h"
 
-#include <QFile>
 #include <algorithm>
 
-#include "platform/linux/ReportDescriptor.h"
+#include "platform/ReportLayout.h"
 
 namespace glidetrak {
 
-namespace {
-
-/// The descriptor stands beside the hidraw node in sysfs. Nothing when it cannot be read, as while
-/// a plug makes contact and loses it again; no device has an empty one.
-std::optional<ReportLayout> ReadLayout(const QByteArray& path) {
-  const QByteArray node = path.mid(path.lastIndexOf('/') + 1);
-  QFile file(QString::fromLocal8Bit("/sys/class/hidraw/" + node + "/device/report_descriptor"));
-  if (!file.open(QIODevice::ReadOnly)) return {};
-  const QByteArray descriptor = file.readAll();
-  if (descriptor.isEmpty()) return {};
-  return ParseReportDescriptor(descriptor);
-}
-
-}  // namespace
-
-LinuxHid::~LinuxHid() {
+HidapiHid::~HidapiHid() {
   for (const auto& [lHandle, device] : m_aDevices) hid_close(device.pDevice);
 }
 
-std::vector<HidListing> LinuxHid::Devices() {
+std::vector<HidListing> HidapiHid::Devices() {
   std::vector<HidListing> aDevices;
   hid_device_info* pFirst = hid_enumerate(0, 0);
   for (const hid_device_info* pInfo = pFirst; pInfo != nullptr; pInfo = pInfo->next) {
@@ -40,7 +24,7 @@ std::vector<HidListing> LinuxHid::Devices() {
   return aDevices;
 }
 
-qint32 LinuxHid::Open(const QByteArray& path) {
+qint32 HidapiHid::Open(const QByteArray& path) {
   hid_device* pDevice = hid_open_path(path.constData());
   if (pDevice == nullptr) return 0;
   const qint32 lHandle = m_lNextHandle++;
@@ -48,19 +32,19 @@ qint32 LinuxHid::Open(const QByteArray& path) {
   return lHandle;
 }
 
-LinuxHid::Device* LinuxHid::Find(qint32 lHandle) {
+HidapiHid::Device* HidapiHid::Find(qint32 lHandle) {
   const auto found = m_aDevices.find(lHandle);
   return found == m_aDevices.end() ? nullptr : &found->second;
 }
 
-void LinuxHid::Close(qint32 lHandle) {
+void HidapiHid::Close(qint32 lHandle) {
   const Device* pFound = Find(lHandle);
   if (pFound == nullptr) return;
   hid_close(pFound->pDevice);
   m_aDevices.erase(lHandle);
 }
 
-bool LinuxHid::Attributes(qint32 lHandle, HidAttributes& attributes) {
+bool HidapiHid::Attributes(qint32 lHandle, HidAttributes& attributes) {
   const Device* pFound = Find(lHandle);
   const hid_device_info* pInfo = pFound == nullptr ? nullptr : hid_get_device_info(pFound->pDevice);
   if (pInfo == nullptr) return false;
@@ -69,7 +53,7 @@ bool LinuxHid::Attributes(qint32 lHandle, HidAttributes& attributes) {
   return true;
 }
 
-bool LinuxHid::ReportLengths(qint32 lHandle, HidReportLengths& lengths) {
+bool HidapiHid::ReportLengths(qint32 lHandle, HidReportLengths& lengths) {
   const Device* pFound = Find(lHandle);
   const std::optional<ReportLayout> layout = pFound ? ReadLayout(pFound->path) : std::nullopt;
   if (!layout) return false;
@@ -79,7 +63,7 @@ bool LinuxHid::ReportLengths(qint32 lHandle, HidReportLengths& lengths) {
 
 /// The kernel takes a report off the queue whole, however little of it is asked for. A queue that
 /// is full drops what comes new, so that emptying it also makes room for the next answer.
-void LinuxHid::DropInput(qint32 lHandle) {
+void HidapiHid::DropInput(qint32 lHandle) {
   const Device* pFound = Find(lHandle);
   if (pFound == nullptr) return;
   unsigned char cFirst = 0;
@@ -88,14 +72,14 @@ void LinuxHid::DropInput(qint32 lHandle) {
   }
 }
 
-qint32 LinuxHid::Write(qint32 lHandle, const QByteArray& report) {
+qint32 HidapiHid::Write(qint32 lHandle, const QByteArray& report) {
   const Device* pFound = Find(lHandle);
   if (pFound == nullptr) return 0;
   const auto* pData = reinterpret_cast<const unsigned char*>(report.constData());
   return std::max(0, hid_write(pFound->pDevice, pData, static_cast<size_t>(report.size())));
 }
 
-HidReadResult LinuxHid::Read(qint32 lHandle, qint32 lTimeOut, QByteArray& report) {
+HidReadResult HidapiHid::Read(qint32 lHandle, qint32 lTimeOut, QByteArray& report) {
   const Device* pFound = Find(lHandle);
   if (pFound == nullptr) return HidReadResult::Failed;
   // Where reports are not numbered the wire carries no id, and its place stays 0.
@@ -107,7 +91,7 @@ HidReadResult LinuxHid::Read(qint32 lHandle, qint32 lTimeOut, QByteArray& report
   return iCount < 0 ? HidReadResult::Failed : HidReadResult::Success;
 }
 
-QString LinuxHid::ErrorText() {
+QString HidapiHid::ErrorText() {
   const wchar_t* pText = hid_error(nullptr);
   return pText == nullptr ? QString() : QString::fromWCharArray(pText);
 }

@@ -1,0 +1,29 @@
+#pragma once
+
+// The parallel library trackport32.dll, which stands beside the executable and is loaded at its
+// first call.
+
+#include <QtGlobal>
+#include <vector>
+
+namespace glidetrak {
+
+class WindowsLibrary {
+ public:
+  /// The operation of that name, a literal, exported by its plain name or by the one that the
+  /// standard call convention makes of it (_Name@4 for one argument). Throws PlatformCall when
+  /// there is no such library or operation; a file that is no 32-bit library counts as none.
+  QFunctionPointer Find(const char* sName, int iArguments);
+
+ private:
+  /// An operation that was called; the name is the caller's literal.
+  struct Operation {
+    const char* sName;
+    QFunctionPointer pointer;
+  };
+
+  void* m_library = nullptr;  ///< handle; null until it was loaded, never let go
+  std::vector<Operation> m_aOperations;
+};
+
+}  // namespace glidetrak
