@@ -1,8 +1,6 @@
 // Figures of the real window with the bench rig: window_bench loop|tick|emergency|idle|open. Needs
 // a display; run it through benchmarks/run, which brings one along.
 
-#include <sys/resource.h>
-
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QFile>
@@ -13,6 +11,7 @@
 #include <QWidget>
 #include <algorithm>
 #include <cstdio>
+#include <ctime>
 #include <vector>
 
 #include "common/SharedState.h"
@@ -21,7 +20,7 @@
 #include "language/RunControl.h"
 #include "language/RunState.h"
 #include "platform/HidapiHid.h"
-#include "platform/linux/LinuxMachine.h"
+#include "platform/ThisMachine.h"
 #include "programs/ProgramFiles.h"
 #include "shell/Events.h"
 #include "shell/StartUp.h"
@@ -35,13 +34,13 @@ using namespace glidetrak;
 constexpr int iMeasuredTime = 10'000;  ///< milliseconds
 
 /// Notes when the byte of a stopped motor is first handed to the adapter behind a press.
-class TimedMachine : public LinuxMachine {
+class TimedMachine : public ThisMachine {
  public:
   qint32 CallTrackport(const char* sOperation, std::initializer_list<qint32> arguments) override {
     if (QByteArray(sOperation) == "WriteAdapter" && (arguments.begin()[1] & 15) == 0) {
       if (m_lStopped == 0) m_lStopped = m_clock.nsecsElapsed();
     }
-    return LinuxMachine::CallTrackport(sOperation, arguments);
+    return ThisMachine::CallTrackport(sOperation, arguments);
   }
   void NotePress() {
     m_clock.start();
@@ -161,13 +160,9 @@ void MeasureEmergency() {
               Quantile(aDelays, 0.5), aDelays.size());
 }
 
+/// Of all threads; the C library of Windows counts the time of day in its place.
 double ProcessorSeconds() {
-  rusage usage{};
-  getrusage(RUSAGE_SELF, &usage);
-  const auto seconds = [](const timeval& t) {
-    return static_cast<double>(t.tv_sec) + static_cast<double>(t.tv_usec) * 1e-6;
-  };
-  return seconds(usage.ru_utime) + seconds(usage.ru_stime);
+  return static_cast<double>(std::clock()) / CLOCKS_PER_SEC;
 }
 
 void MeasureIdle() {

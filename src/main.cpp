@@ -5,9 +5,10 @@
 #include "form/DesignState.h"
 #include "form/frmGlidetrak.h"
 #include "hardware/AdapterLayer.h"
+#include "platform/HidapiHid.h"
 #include "platform/ProcessEnd.h"
 #include "platform/Suspend.h"
-#include "platform/ThisSystem.h"
+#include "platform/ThisMachine.h"
 #include "shell/Closing.h"
 #include "shell/Events.h"
 #include "shell/StartUp.h"
@@ -17,9 +18,14 @@
 
 int main(int argc, char** argv) {
   QApplication application(argc, argv);
+  glidetrak::ThisMachine machine;
+  glidetrak::HidapiHid hid;
   glidetrak::ViewDesktop desktop;
+  glidetrak::pMachine = &machine;
+  glidetrak::pHid = &hid;
   glidetrak::pDesktop = &desktop;
-  glidetrak::UseThisSystem([] { glidetrak::MainWindow()->ComeForward(); });
+
+  machine.SetActivation([] { glidetrak::MainWindow()->ComeForward(); });
 
   glidetrak::WatchProcessEnd({[] { glidetrak::frmGlidetrak.FormUnload(); }, glidetrak::StopRigAtEnd,
                               glidetrak::StopRigInCrash});
@@ -27,8 +33,8 @@ int main(int argc, char** argv) {
   glidetrak::ResetForms();
   glidetrak::WireEvents();
   glidetrak::BuildView();
-  glidetrak::Form_Load(glidetrak::pMachine->CommandLine());
+  glidetrak::Form_Load(machine.CommandLine());
   glidetrak::OnSuspend(glidetrak::Form_Suspend);
   QApplication::exec();
-  glidetrak::pMachine->EndProcess();
+  machine.EndProcess();
 }

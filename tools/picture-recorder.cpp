@@ -20,10 +20,11 @@ int Fail(const char* sText, const QString& sFile) {
 bool Record(QSvgRenderer& renderer, const QString& sFile) {
   const QRect whole(QPoint(), renderer.viewBox().size());
   QPicture picture;
+  // Ahead of the painting, which would else count what it touches and store that.
+  picture.setBoundingRect(whole);
   QPainter painter(&picture);
   renderer.render(&painter, whole);
   painter.end();
-  picture.setBoundingRect(whole);
   return picture.save(sFile);
 }
 
@@ -40,7 +41,7 @@ bool Draw(QSvgRenderer& renderer, const QString& sFile, int iPixels) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  qputenv("QT_QPA_PLATFORM", "offscreen");
+  qputenv("QT_QPA_PLATFORM", "minimal");
   const QGuiApplication application(argc, argv);
   const QStringList aArguments = QGuiApplication::arguments();
   if (aArguments.size() < 3) return Fail("needs", "IN.svg OUT.picture | IN.svg OUT.png PIXELS");

@@ -88,13 +88,13 @@ int MainCode(int iKey, quint32 lScanCode) {
 
 int VirtualKeyCode(const QKeyEvent& event) {
 #ifdef Q_OS_WIN
-  return static_cast<int>(event.nativeVirtualKey());
-#else
+  // The system's own, but for an event that did not come from a keyboard.
+  if (event.nativeVirtualKey() != 0) return static_cast<int>(event.nativeVirtualKey());
+#endif
   if (event.modifiers() & Qt::KeypadModifier) {
     if (const int iCode = PadCode(event.key())) return iCode;
   }
   return MainCode(event.key(), event.nativeScanCode());
-#endif
 }
 
 int CharacterCode(const QKeyEvent& event) {

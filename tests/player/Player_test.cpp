@@ -1,34 +1,31 @@
-// Ten thousand short sequences, each in a process of its own that is a copy of this one, since the
-// station's state lives as long as its process.
+// Ten thousand short sequences, each in a process of its own, since the station's state lives as
+// long as its process.
 //
 //   GLIDETRAK_PLAYER_SEED=n    plays sequence n alone and tells its story
 //   GLIDETRAK_PLAYER_FIRST=n   begins with sequence n
 //   GLIDETRAK_PLAYER_COUNT=n   plays that many
 
 #include <gtest/gtest.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 #include <cstdio>
-#include <cstdlib>
 
 #include "player/Player.h"
+#include "player/SequenceProcess.h"
 
 namespace glidetrak {
 namespace {
 
 constexpr quint64 lFirst = 1;
 constexpr quint64 lCount = 10'000;
-constexpr unsigned iLongestSequence = 20;  ///< real seconds; it takes milliseconds
-constexpr int iMostFailures = 5;           ///< told in full before the player gives up
+constexpr int iMostFailures = 5;  ///< told in full before the player gives up
 
 quint64 FromEnvironment(const char* sName, quint64 lOtherwise) {
   const QByteArray value = qgetenv(sName);
   return value.isEmpty() ? lOtherwise : value.toULongLong();
 }
 
-[[noreturn]] void PlayInChild(quint64 lSeed) {
-  alarm(iLongestSequence);
+/// False when something did not hold, which is told then.
+bool PlaySequence(quint64 lSeed) {
   Player player(lSeed);
   const QString sViolation = player.Play();
   const bool bTellAll = qEnvironmentVariableIsSet("GLIDETRAK_PLAYER_SEED");
@@ -37,17 +34,7 @@ quint64 FromEnvironment(const char* sName, quint64 lOtherwise) {
   }
   if (!sViolation.isEmpty()) std::fprintf(stderr, "does not hold: %s\n", qPrintable(sViolation));
   std::fflush(stderr);
-  _exit(sViolation.isEmpty() ? 0 : 1);
-}
-
-/// "" for a sequence in which everything held.
-std::string PlaySequence(quint64 lSeed) {
-  const pid_t child = fork();
-  if (child == 0) PlayInChild(lSeed);
-  int iStatus = 0;
-  if (child < 0 || waitpid(child, &iStatus, 0) != child) return "no process for it";
-  if (WIFSIGNALED(iStatus)) return "ended by signal " + std::to_string(WTERMSIG(iStatus));
-  return WEXITSTATUS(iStatus) == 0 ? "" : "something did not hold, see above";
+  return sViolation.isEmpty();
 }
 
 TEST(Player, FindsNothingThatDoesNotHold) {
@@ -60,7 +47,7 @@ TEST(Player, FindsNothingThatDoesNotHold) {
   std::fflush(stdout);
   int iFailures = 0;
   for (quint64 i = 0; i < lSequences && iFailures < iMostFailures; ++i) {
-    const std::string sWrong = PlaySequence(lSeed + i);
+    const std::string sWrong = InProcessOfItsOwn(lSeed + i, PlaySequence);
     if (!sWrong.empty()) ++iFailures;
     EXPECT_EQ(sWrong, "") << "GLIDETRAK_PLAYER_SEED=" << lSeed + i;
   }

@@ -9,9 +9,9 @@
 
 #include "common/SharedState.h"
 #include "hardware/AdapterLayer.h"
-#include "platform/ProcessEnd.h"
 #include "platform/HidapiHid.h"
-#include "platform/linux/LinuxMachine.h"
+#include "platform/ProcessEnd.h"
+#include "platform/ThisMachine.h"
 
 namespace {
 
@@ -25,7 +25,7 @@ void LeaveBy(std::string_view sRoad) {
 
 int main(int argc, char** argv) {
   QCoreApplication application(argc, argv);
-  glidetrak::LinuxMachine machine;
+  glidetrak::ThisMachine machine;
   glidetrak::HidapiHid hid;
   glidetrak::pMachine = &machine;
   glidetrak::pHid = &hid;

@@ -6,6 +6,7 @@
 
 #include <QFile>
 #include <QImage>
+#include <QPicture>
 
 namespace glidetrak {
 namespace {
@@ -41,12 +42,32 @@ TEST(Pictures, AllLookDifferent) {
   }
 }
 
+QByteArray Drawing(const PictureFile& row) {
+  QFile file(QString("%1/%2.svg").arg(GLIDETRAK_PICTURES, row.sFile));
+  EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << row.sFile;
+  return file.readAll();
+}
+
 /// Texts come from the string table, in two languages.
 TEST(Pictures, HoldNoText) {
   for (const PictureFile& row : PictureFiles) {
-    QFile file(QString("%1/%2.svg").arg(GLIDETRAK_PICTURES, row.sFile));
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly)) << row.sFile;
-    EXPECT_FALSE(file.readAll().contains("<text")) << row.sFile;
+    EXPECT_FALSE(Drawing(row).contains("<text")) << row.sFile;
+  }
+}
+
+/// What is painted may reach less far than the drawing, or farther.
+TEST(Pictures, AreRecordedAtTheSizeOfTheirDrawing) {
+  EXPECT_FALSE(ImageOf(PictureId::Lever).isNull());
+  for (const PictureFile& row : PictureFiles) {
+    QPicture picture;
+    ASSERT_TRUE(picture.load(QString(":/pictures/%1.picture").arg(row.sFile))) << row.sFile;
+    const QRect rect = picture.boundingRect();
+    const auto sBox = QString("viewBox=\"%1 %2 %3 %4\"")
+                          .arg(rect.x())
+                          .arg(rect.y())
+                          .arg(rect.width())
+                          .arg(rect.height());
+    EXPECT_TRUE(Drawing(row).contains(sBox.toUtf8())) << row.sFile << ' ' << sBox.toStdString();
   }
 }
 

@@ -14,7 +14,7 @@
 #include "form/ControlTable.h"
 #include "form/frmAbout.h"
 #include "form/frmGlidetrak.h"
-#include "platform/linux/LinuxMachine.h"
+#include "platform/ThisMachine.h"
 #include "station/Print.h"
 #include "view/MainWindow.h"
 #include "view/View.h"
@@ -58,7 +58,7 @@ class ViewTest : public ::testing::Test {
   static std::function<void()> Note(QStringList& aNotes, const QString& sNote);
   static std::function<void(int, float, float)> Note(std::vector<HeardMouse>& aHeard);
 
-  LinuxMachine m_machine;
+  ThisMachine m_machine;
 };
 
 }  // namespace glidetrak

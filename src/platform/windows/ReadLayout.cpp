@@ -2,8 +2,10 @@
 
 #include "platform/windows/Api.h"
 
-// Behind the system's own declarations.
+// Behind the system's own declarations, and as those of C, which it leaves to whoever includes it.
+extern "C" {
 #include <hidsdi.h>
+}
 
 namespace glidetrak {
 
