@@ -2,6 +2,7 @@
 #include <QProcess>
 #include <cstdlib>
 
+#include "platform/windows/Api.h"
 #include "player/SequenceProcess.h"
 
 namespace glidetrak {
@@ -23,9 +24,9 @@ std::string InProcessOfItsOwn(quint64 lSeed, bool (*play)(quint64)) {
   environment.insert(sChild, QString::number(lSeed));
   process.setProcessEnvironment(environment);
   process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-  wchar_t* pProgram = nullptr;
-  if (_get_wpgmptr(&pProgram) != 0) return "no process for it";
-  process.start(QString::fromWCharArray(pProgram), {});
+  wchar_t aProgram[MAX_PATH];
+  GetModuleFileNameW(nullptr, aProgram, MAX_PATH);
+  process.start(QString::fromWCharArray(aProgram), {});
   if (!process.waitForFinished(iLongestSequence)) return "not at its end in time";
   if (process.exitStatus() != QProcess::NormalExit) return "ended by a crash";
   return process.exitCode() == 0 ? "" : "something did not hold, see above";

@@ -122,6 +122,8 @@ void WindowsFiles::Write(const QString& sPath, const QByteArray& bytes) {
   const std::wstring sCall = TargetOf(CallPath(sPath));
   const DWORD lNow = sCall.empty() ? INVALID_FILE_ATTRIBUTES : GetFileAttributesW(sCall.c_str());
   const DWORD lOld = lNow == INVALID_FILE_ATTRIBUTES ? m_aDeleted.take(sPath) : lNow;
+  // Not left to the disk, which may be another system's.
+  if ((lOld & FILE_ATTRIBUTE_READONLY) != 0) throw RuntimeError(Fault::FileAccess);
   OpenFile file(sCall, GENERIC_WRITE, 0, CREATE_ALWAYS,
                 FILE_ATTRIBUTE_ARCHIVE | (lOld & lKeptAttributes));
   if (!file.IsOpen()) throw RuntimeError(Fault::FileAccess);

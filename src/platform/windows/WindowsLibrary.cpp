@@ -6,23 +6,27 @@
 #include "platform/ProcessEnd.h"
 #include "platform/RuntimeError.h"
 #include "platform/windows/Api.h"
-#include "platform/windows/ExecutablePath.h"
 
 namespace glidetrak {
 
 namespace {
 
 /// What the library itself needs is looked for beside it first.
-HMODULE Load() {
-  const std::wstring sPath = ExecutableFolderPath() + L"\\trackport32.dll";
+HMODULE Load(const std::wstring& sFolder) {
+  const std::wstring sPath = sFolder + L"\\trackport32.dll";
   return LoadLibraryExW(sPath.c_str(), nullptr, LOAD_WITH_ALTERED_SEARCH_PATH);
 }
 
+/// The plain name, and the decorated one with and without the underscore that a compiler puts
+/// ahead.
 FARPROC Resolve(HMODULE library, const char* sName, int iArguments) {
-  const FARPROC plain = GetProcAddress(library, sName);
-  if (plain != nullptr) return plain;
-  const QByteArray decorated = '_' + QByteArray(sName) + '@' + QByteArray::number(4 * iArguments);
-  return GetProcAddress(library, decorated.constData());
+  const QByteArray plain = sName;
+  const QByteArray decorated = plain + '@' + QByteArray::number(4 * iArguments);
+  for (const QByteArray& name : {plain, '_' + decorated, decorated}) {
+    const FARPROC found = GetProcAddress(library, name.constData());
+    if (found != nullptr) return found;
+  }
+  return nullptr;
 }
 
 }  // namespace
@@ -34,7 +38,7 @@ QFunctionPointer WindowsLibrary::Find(const char* sName, int iArguments) {
     if (std::strcmp(known.sName, sName) == 0) return known.pointer;
   }
   if (m_library == nullptr) {
-    m_library = Load();
+    m_library = Load(m_sFolder);
     if (m_library == nullptr) throw RuntimeError(Fault::PlatformCall);
     MoveLastDeedAhead();
   }

@@ -4,14 +4,21 @@
 // first call.
 
 #include <QtGlobal>
+#include <utility>
 #include <vector>
+
+#include "platform/windows/ExecutablePath.h"
 
 namespace glidetrak {
 
 class WindowsLibrary {
  public:
-  /// The operation of that name, a literal, exported by its plain name or by the one that the
-  /// standard call convention makes of it (_Name@4 for one argument). Throws PlatformCall when
+  /// `sFolder` without a backslash at its end.
+  explicit WindowsLibrary(std::wstring sFolder = ExecutableFolderPath())
+      : m_sFolder(std::move(sFolder)) {}
+
+  /// The operation of that name, a literal, exported by its plain name or by one that the standard
+  /// call convention makes of it (_Name@4 or Name@4 for one argument). Throws PlatformCall when
   /// there is no such library or operation; a file that is no 32-bit library counts as none.
   QFunctionPointer Find(const char* sName, int iArguments);
 
@@ -22,6 +29,7 @@ class WindowsLibrary {
     QFunctionPointer pointer;
   };
 
+  std::wstring m_sFolder;
   void* m_library = nullptr;  ///< handle; null until it was loaded, never let go
   std::vector<Operation> m_aOperations;
 };
