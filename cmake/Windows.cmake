@@ -31,3 +31,20 @@ function(glidetrak_windows_program TARGET)
   set_target_properties(${TARGET} PROPERTIES WIN32_EXECUTABLE ON)
   target_link_options(${TARGET} PRIVATE -s)
 endfunction()
+
+# glidetrak_catalogue(VARIABLE FILE)
+# A catalogue of texts compiled in under :/catalogues; the source that holds it is added to the
+# variable.
+function(glidetrak_catalogue VARIABLE FILE)
+  if(NOT EXISTS ${FILE})
+    message(FATAL_ERROR "${FILE} is missing (qt6-translations-l10n)")
+  endif()
+  get_filename_component(NAME ${FILE} NAME)
+  set(LIST ${CMAKE_CURRENT_BINARY_DIR}/catalogues.qrc)
+  file(CONFIGURE OUTPUT ${LIST} CONTENT
+       "<RCC><qresource prefix=\"/catalogues\"><file alias=\"@NAME@\">@FILE@</file></qresource></RCC>"
+       @ONLY)
+  set(SOURCES ${${VARIABLE}})
+  qt_add_resources(SOURCES ${LIST})
+  set(${VARIABLE} ${SOURCES} PARENT_SCOPE)
+endfunction()

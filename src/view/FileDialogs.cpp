@@ -8,14 +8,14 @@
 #include "platform/Platform.h"
 #include "view/FileColumns.h"
 #include "view/ToolkitTexts.h"
+#include "view/TypedName.h"
 
 namespace glidetrak {
 
 namespace {
 
-/// The toolkit takes a text with double quotes for a list of names, and so for other files than the
-/// one that was typed; the station takes a backslash for the end of a folder. A text with either is
-/// taken here as the one name that it is.
+/// The toolkit takes some names for other files than the one that was typed. Such a text is taken
+/// here as the one name that it is.
 class NameDialog : public QFileDialog {
  public:
   using QFileDialog::QFileDialog;
@@ -27,8 +27,10 @@ class NameDialog : public QFileDialog {
 
  protected:
   void accept() override {
-    const QString sText = findChild<QLineEdit*>("fileNameEdit")->text();
-    if (!sText.contains(u'"') && !sText.contains(u'\\')) {
+    auto* pName = findChild<QLineEdit*>("fileNameEdit");
+    const QString sText = BareName(pName->text());
+    if (!IsMisreadByToolkit(sText)) {
+      if (sText != pName->text()) pName->setText(sText);
       QFileDialog::accept();
       return;
     }

@@ -7,27 +7,30 @@ namespace glidetrak {
 
 namespace {
 
-struct Substitutes {
+struct Face {
   const char* sFamily;
+  bool bRaster;            ///< Windows has it as pixels, in few sizes that fit no scaled display
   const char* aOthers[4];  ///< the nearest in width first; null ends the list
 };
 
-constexpr Substitutes SubstituteTable[] = {
-    {"MS Sans Serif", {"Arial", "Liberation Sans", "Nimbus Sans", nullptr}},
-    {"Verdana", {"DejaVu Sans", nullptr}},
-    {"Malgun Gothic", {"Segoe UI", "Liberation Sans", "Nimbus Sans", nullptr}},
+constexpr Face FaceTable[] = {
+    {"MS Sans Serif", true, {"Microsoft Sans Serif", "Arial", "Liberation Sans", "Nimbus Sans"}},
+    {"Verdana", false, {"DejaVu Sans", nullptr}},
+    {"Malgun Gothic", false, {"Segoe UI", "Liberation Sans", "Nimbus Sans", nullptr}},
     {"Arial Narrow",
-     {"Liberation Sans Narrow", "Nimbus Sans Narrow", "DejaVu Sans Condensed", nullptr}},
-    {"Courier", {"Courier New", "Liberation Mono", "DejaVu Sans Mono", nullptr}},
-    {"Courier New", {"Liberation Mono", "DejaVu Sans Mono", nullptr}},
+     false,
+     {"Liberation Sans Narrow", "Nimbus Sans Narrow", "DejaVu Sans Condensed", "Arial"}},
+    {"Courier", true, {"Courier New", "Liberation Mono", "DejaVu Sans Mono", nullptr}},
+    {"Courier New", false, {"Liberation Mono", "DejaVu Sans Mono", nullptr}},
 };
 
 constexpr qreal fSmallest = 0.72;  ///< of the design size; below that nobody reads it
 
 QStringList FamiliesFor(const QString& sFamily) {
   QStringList aFamilies{sFamily};
-  for (const Substitutes& row : SubstituteTable) {
+  for (const Face& row : FaceTable) {
     if (sFamily != row.sFamily) continue;
+    if (row.bRaster) aFamilies.clear();
     for (int i = 0; i < 4 && row.aOthers[i]; ++i) aFamilies.append(row.aOthers[i]);
   }
   return aFamilies;

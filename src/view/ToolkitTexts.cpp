@@ -1,13 +1,13 @@
 #include "view/ToolkitTexts.h"
 
 #include <QCoreApplication>
-#include <QLibraryInfo>
 #include <QLocale>
 #include <QTranslator>
 #include <string_view>
 
 #include "strings/LanguageFunctions.h"
 #include "strings/ResourceStrings.h"
+#include "view/CatalogueFolder.h"
 
 namespace glidetrak {
 
@@ -67,7 +67,7 @@ QLocale SpanishLocale() {
 void InstallSpanish() {
   auto* pTexts = new SpanishTexts(QCoreApplication::instance());
   // Without the toolkit's catalogue the rows above are in Spanish all the same.
-  (void)pTexts->load("qtbase_es", QLibraryInfo::path(QLibraryInfo::TranslationsPath));
+  (void)pTexts->load("qtbase_es", CatalogueFolder());
   QCoreApplication::installTranslator(pTexts);
   QLocale::setDefault(SpanishLocale());
 }

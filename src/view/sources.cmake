@@ -30,4 +30,11 @@ set(VIEW_SOURCES
   view/ToolkitTexts.cpp
   view/View.cpp
   view/ViewDesktop.cpp)
+if(WIN32)
+  list(APPEND VIEW_SOURCES view/CatalogueFolderWindows.cpp view/TypedNameWindows.cpp)
+  # The toolkit's own texts, which no package of the system brings here.
+  glidetrak_catalogue(VIEW_SOURCES ${QT_HOST_PATH}/share/qt6/translations/qtbase_es.qm)
+else()
+  list(APPEND VIEW_SOURCES view/CatalogueFolderUnix.cpp view/TypedNameUnix.cpp)
+endif()
 glidetrak_pictures(VIEW_SOURCES)

@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QListWidget>
 
+#include "view/Fonts.h"
 #include "view/Units.h"
 #include "view/ViewTest.h"
 
@@ -120,6 +121,12 @@ TEST_F(Properties, ListsShowTheirEntries) {
   lstProgCommands.ListIndex = 2;
   EXPECT_EQ(pCombo->currentIndex(), 1);
   EXPECT_EQ(pList->currentRow(), 2);
+}
+
+TEST_F(Properties, FacesThatWindowsHasAsPixelsGiveWayToThoseThatItDraws) {
+  EXPECT_EQ(MakeFont({"MS Sans Serif", 8.25F, true}).families().first(), "Microsoft Sans Serif");
+  EXPECT_EQ(MakeFont({"Courier", 9.75F, false}).families().first(), "Courier New");
+  EXPECT_EQ(MakeFont({"Courier New", 9, false}).families().first(), "Courier New");
 }
 
 TEST_F(Properties, FontsHaveTheDesignSizes) {
