@@ -4,6 +4,7 @@
 
 #include <QDir>
 
+#include "platform/WindowsFolder.h"
 #include "station/Print.h"
 
 namespace glidetrak {
@@ -60,6 +61,17 @@ TEST(CallPath, IsNoneForWhatNoFileBears) {
 TEST(ToolkitPath, HasSlashesAndComesBackWithBackslashes) {
   EXPECT_EQ(ToolkitPath("C:\\a\\b.GTP"), QString("C:/a/b.GTP"));
   EXPECT_EQ(StationPathOf("//school/share/b.GTP"), QString("\\\\school\\share\\b.GTP"));
+}
+
+/// The command line comes in upper case.
+TEST(ToolkitPath, IsSpeltAsTheDiskSpellsIt) {
+  const WindowsFolder folder;
+  folder.AddFile("Plan one.gtp", "");
+  const QString sFound = ToolkitPath(folder.Path("Plan one.gtp"));
+  EXPECT_TRUE(sFound.endsWith("/Plan one.gtp")) << sFound.toStdString();
+  EXPECT_EQ(ToolkitPath(folder.Path("Plan one.gtp").toUpper()), sFound);
+  EXPECT_EQ(ToolkitPath(folder.Path().toUpper() + "\\NONE.GTP"),
+            ToolkitPath(folder.Path()) + "/NONE.GTP");
 }
 
 }  // namespace

@@ -11,11 +11,26 @@ namespace {
 /// A path as long as this is taken by its full name alone, which is left as it stands.
 constexpr size_t iLongPath = 248;
 
+constexpr DWORD lLongestPath = 32768;  ///< characters that a path may have, the NUL included
+
 std::wstring FromRoot(const std::wstring& sPath) {
   const DWORD lRoom = GetFullPathNameW(sPath.c_str(), 0, nullptr, nullptr);
   std::wstring sFull(lRoom, 0);
   sFull.resize(lRoom == 0 ? 0 : GetFullPathNameW(sPath.c_str(), lRoom, sFull.data(), nullptr));
   return sFull;
+}
+
+/// As the disk spells it, as far as it is there: the toolkit's list of a folder stays empty under
+/// another spelling. A share is not asked, which may be gone and would be waited for.
+QString AsOnDisk(const QString& sPath) {
+  if (sPath.startsWith("\\\\")) return sPath;
+  const std::wstring sGiven = sPath.toStdWString();
+  std::wstring sFound(lLongestPath, 0);
+  const DWORD lLength = GetLongPathNameW(sGiven.c_str(), sFound.data(), lLongestPath);
+  if (lLength > 0 && lLength < lLongestPath) return QString::fromWCharArray(sFound.c_str());
+  const qsizetype iFolderEnd = sPath.lastIndexOf(u'\\');
+  if (iFolderEnd <= 0) return sPath;
+  return AsOnDisk(sPath.left(iFolderEnd)) + sPath.mid(iFolderEnd);
 }
 
 /// The end of the first name of a command line: the quotes count, not what stands in them.
@@ -32,7 +47,7 @@ qsizetype EndOfName(const QString& sCommandLine) {
 }  // namespace
 
 QString ToolkitPath(const QString& sStationPath) {
-  return QDir::fromNativeSeparators(sStationPath);
+  return QDir::fromNativeSeparators(AsOnDisk(sStationPath));
 }
 
 QString StationPathOf(const QString& sToolkitPath) {

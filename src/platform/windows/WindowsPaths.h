@@ -7,7 +7,8 @@
 
 namespace glidetrak {
 
-/// The path as the toolkit and its dialogs write it, with slashes.
+/// The path as the toolkit and its dialogs write it: with slashes, and as the disk spells it as far
+/// as it is there. A path of a share keeps its spelling.
 QString ToolkitPath(const QString& sStationPath);
 QString StationPathOf(const QString& sToolkitPath);
 
