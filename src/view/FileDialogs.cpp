@@ -1,11 +1,8 @@
 #include "view/FileDialogs.h"
 
-#include <QAbstractItemView>
-#include <QCompleter>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QKeyEvent>
 #include <QLineEdit>
 
 #include "platform/Platform.h"
@@ -23,9 +20,6 @@ class NameDialog : public QFileDialog {
  public:
   using QFileDialog::QFileDialog;
 
-  /// To be called once the dialog has its fields.
-  void WatchSuggestions() { Suggestions()->installEventFilter(this); }
-
   QFileInfo Chosen() const {
     return m_sTyped.isEmpty() ? QFileInfo(selectedFiles().constFirst())
                               : QFileInfo(directory().filePath(m_sTyped));
@@ -33,7 +27,7 @@ class NameDialog : public QFileDialog {
 
  protected:
   void accept() override {
-    QLineEdit* pName = NameField();
+    auto* pName = findChild<QLineEdit*>("fileNameEdit");
     const QString sText = BareName(pName->text());
     if (!IsMisreadByToolkit(sText)) {
       if (sText != pName->text()) pName->setText(sText);
@@ -44,27 +38,7 @@ class NameDialog : public QFileDialog {
     done(Accepted);
   }
 
-  /// Enter would only put the list of suggestions away, which opens late over a name that is typed
-  /// already. With none of them chosen it takes the name.
-  bool eventFilter(QObject* pWatched, QEvent* pEvent) override {
-    QAbstractItemView* pList = Suggestions();
-    if (pWatched != pList || !IsEnter(*pEvent) || pList->currentIndex().isValid()) {
-      return QFileDialog::eventFilter(pWatched, pEvent);
-    }
-    pList->hide();
-    accept();
-    return true;
-  }
-
  private:
-  static bool IsEnter(const QEvent& event) {
-    if (event.type() != QEvent::KeyPress) return false;
-    const int iKey = static_cast<const QKeyEvent&>(event).key();
-    return iKey == Qt::Key_Return || iKey == Qt::Key_Enter;
-  }
-  QLineEdit* NameField() const { return findChild<QLineEdit*>("fileNameEdit"); }
-  QAbstractItemView* Suggestions() const { return NameField()->completer()->popup(); }
-
   QString m_sTyped;  ///< with the default extension where it had none; "" for all other names
 };
 
@@ -111,7 +85,6 @@ void TakeName(FileDialog& dialog, const QFileInfo& chosen) {
 
 void Run(NameDialog& box, FileDialog& dialog) {
   Prepare(box, dialog);
-  box.WatchSuggestions();
   if (box.exec() == QDialog::Accepted) {
     TakeName(dialog, box.Chosen());
     return;

@@ -2,9 +2,7 @@
 
 // The file dialogs over a folder of their own, with a hand that types names into them.
 
-#include <QAbstractItemView>
 #include <QApplication>
-#include <QCompleter>
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QTemporaryDir>

@@ -54,23 +54,6 @@ TEST_F(Dialogs, SaveTakesNewNamesInSpiteOfTheFlags) {
   EXPECT_EQ(cmSave.Flags & dlgExtensionDifferent, 0);
 }
 
-TEST_F(Dialogs, EnterTakesTheTypedNameThoughSuggestionsAreOpen) {
-  AddFile("PLANS.GTP");
-  OnDialog([](QFileDialog* pBox) {
-    auto* pName = pBox->findChild<QLineEdit*>("fileNameEdit");
-    ASSERT_TRUE(QTest::qWaitForWindowActive(pBox));
-    pName->setFocus();
-    QTest::keyClicks(pName, "PLAN");
-    QWidget* pSuggestions = pName->completer()->popup();
-    EXPECT_TRUE(QTest::qWaitFor([&] { return pSuggestions->isVisible(); }));
-    QTest::keyClick(pSuggestions, Qt::Key_Return);
-    EXPECT_FALSE(pBox->isVisible());
-    pBox->reject();
-  });
-  cmSave.ShowSave();
-  EXPECT_EQ(cmSave.FileTitle, "PLAN.GTP");
-}
-
 TEST_F(Dialogs, SaveDoesNotAskBeforeOverwriting) {
   const QString sPath = AddFile("PLAN.GTP");
   OnDialog([](QFileDialog* pBox) {

@@ -11,8 +11,6 @@ namespace {
 /// A path as long as this is taken by its full name alone, which is left as it stands.
 constexpr size_t iLongPath = 248;
 
-constexpr DWORD lLongestPath = 32768;  ///< characters that a path may have, the NUL included
-
 std::wstring FromRoot(const std::wstring& sPath) {
   const DWORD lRoom = GetFullPathNameW(sPath.c_str(), 0, nullptr, nullptr);
   std::wstring sFull(lRoom, 0);
@@ -20,17 +18,26 @@ std::wstring FromRoot(const std::wstring& sPath) {
   return sFull;
 }
 
+/// The name under which a folder lists the file or folder at its end; the name as it is where there
+/// is none.
+QString ListedName(const QString& sPath, const QString& sName) {
+  if (sName.isEmpty() || sName == u"." || sName == u".." || sName.contains(u'*') ||
+      sName.contains(u'?')) {
+    return sName;
+  }
+  WIN32_FIND_DATAW found{};
+  const HANDLE search = FindFirstFileW(sPath.toStdWString().c_str(), &found);
+  if (search == INVALID_HANDLE_VALUE) return sName;
+  FindClose(search);
+  return QString::fromWCharArray(found.cFileName);
+}
+
 /// As the disk spells it, as far as it is there: the toolkit's list of a folder stays empty under
 /// another spelling. A share is not asked, which may be gone and would be waited for.
 QString AsOnDisk(const QString& sPath) {
-  if (sPath.startsWith("\\\\")) return sPath;
-  const std::wstring sGiven = sPath.toStdWString();
-  std::wstring sFound(lLongestPath, 0);
-  const DWORD lLength = GetLongPathNameW(sGiven.c_str(), sFound.data(), lLongestPath);
-  if (lLength > 0 && lLength < lLongestPath) return QString::fromWCharArray(sFound.c_str());
   const qsizetype iFolderEnd = sPath.lastIndexOf(u'\\');
-  if (iFolderEnd <= 0) return sPath;
-  return AsOnDisk(sPath.left(iFolderEnd)) + sPath.mid(iFolderEnd);
+  if (iFolderEnd <= 0 || sPath.startsWith(u"\\\\")) return sPath;
+  return AsOnDisk(sPath.left(iFolderEnd)) + u'\\' + ListedName(sPath, sPath.mid(iFolderEnd + 1));
 }
 
 /// The end of the first name of a command line: the quotes count, not what stands in them.
