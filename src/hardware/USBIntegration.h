@@ -8,7 +8,8 @@
 //                          byte with its value, 0 to 15, in the high nibble.
 //
 // An exchange blocks the thread: the search for a device that was lost, the write for as long as
-// the kernel takes, then the wait for the reply, 1000 ms at most. None raises anything.
+// the system takes (on Windows 1000 ms at most), then the wait for the reply, 1000 ms at most. None
+// raises anything.
 
 #include <QtGlobal>
 

@@ -59,9 +59,8 @@ void clsUSBHID::OpenWhenNeeded() {
 
 void clsUSBHID::OpenDevice() {
   CloseDevice();
-  for (const HidListing& listing : pHid->Devices()) {
-    // A device of somebody else's is not even opened: that alone may stir it.
-    if (listing.iVendorID != iVendorID || listing.iProductID != iProductID) continue;
+  // A device of somebody else's is not even opened: that alone may stir it.
+  for (const HidListing& listing : pHid->Devices(iVendorID, iProductID)) {
     m_lHIDhandle = pHid->Open(listing.path);
     RecordLastError();
     if (AcceptDevice()) {

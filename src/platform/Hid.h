@@ -1,8 +1,11 @@
 #pragma once
 
 // The HID devices of the machine, in the station's own terms. platform/linux and platform/windows
-// answer it, tests with their virtual rig. Failures are told by the results. Write waits as long as
-// the system does, and Read says how long; nothing else waits for a device's answer.
+// answer it, tests with their virtual rig. Failures are told by the results.
+//
+// Write waits until the device has taken the report: on Linux as long as the kernel lets it, on
+// Windows 1000 ms at most. Read says how long it waits. On Windows Devices and Open ask a device of
+// the wanted ids for its texts, too, and wait for what it says. Nothing else waits for a device.
 //
 // Example: a device whose input reports hold 64 bytes has an iInput of 65. Read fills bytes 1 to 64
 // and leaves a 0 at 0 where the device's reports are not numbered.
@@ -34,16 +37,18 @@ struct HidReportLengths {
 
 enum class HidReadResult { Success, TimeOut, Failed };
 
-/// Input reports that one DropInput drops: the places of an input queue, and an end to it where
-/// a device sends faster than they are dropped.
-constexpr int iMostDropped = 64;
+/// Input reports that one DropInput drops: the 64 places of an input queue, one report that a read
+/// under way may hold beside it, and an end to it where a device sends faster than they are
+/// dropped.
+constexpr int iMostDropped = 65;
 
 class Hid {
  public:
   virtual ~Hid() = default;
 
-  /// The HID devices that are present, each path once. Opens none of them.
-  virtual std::vector<HidListing> Devices() = 0;
+  /// The HID devices of that vendor and product that are present, each path once. None is opened
+  /// for its reports, and one of another vendor or product is asked for nothing but its ids.
+  virtual std::vector<HidListing> Devices(qint16 iVendorID, qint16 iProductID) = 0;
 
   /// Opens a device for reading and writing, shared; a handle, never negative, or 0 when it cannot
   /// be opened. Each handle has an input queue of its own, in which every input report of the
@@ -61,6 +66,7 @@ class Hid {
   virtual void DropInput(qint32 lHandle) = 0;
 
   /// Writes one whole output report, the report id first; the count of bytes written, 0 on failure.
+  /// A report that the device did not take in time may still reach it until the handle is closed.
   virtual qint32 Write(qint32 lHandle, const QByteArray& report) = 0;
 
   /// Waits up to lTimeOut ms for one input report. On Success `report`, which comes with the length

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "platform/HidapiCalls.h"
 #include "platform/ReportLayout.h"
 
 namespace glidetrak {
@@ -10,9 +11,11 @@ HidapiHid::~HidapiHid() {
   for (const auto& [lHandle, device] : m_aDevices) hid_close(device.pDevice);
 }
 
-std::vector<HidListing> HidapiHid::Devices() {
+/// Listed by its ids: whatever is listed is asked for its texts on Windows.
+std::vector<HidListing> HidapiHid::Devices(qint16 iVendorID, qint16 iProductID) {
   std::vector<HidListing> aDevices;
-  hid_device_info* pFirst = hid_enumerate(0, 0);
+  hid_device_info* pFirst =
+      hid_enumerate(static_cast<quint16>(iVendorID), static_cast<quint16>(iProductID));
   for (const hid_device_info* pInfo = pFirst; pInfo != nullptr; pInfo = pInfo->next) {
     // A device with several usages is listed once for each.
     const auto isThis = [pInfo](const HidListing& listing) { return listing.path == pInfo->path; };
@@ -25,10 +28,12 @@ std::vector<HidListing> HidapiHid::Devices() {
 }
 
 qint32 HidapiHid::Open(const QByteArray& path) {
-  hid_device* pDevice = hid_open_path(path.constData());
+  hid_device* pDevice = OpenForReports(path);
   if (pDevice == nullptr) return 0;
+  const ReportLayout layout = ReadLayout(path).value_or(ReportLayout{});
   const qint32 lHandle = m_lNextHandle++;
-  m_aDevices[lHandle] = {pDevice, path, ReadLayout(path).value_or(ReportLayout{}).bNumbered};
+  Device& device = m_aDevices[lHandle] = {pDevice, path, layout.bNumbered, {}};
+  device.aSent.reserve(layout.lengths.iOutput);
   return lHandle;
 }
 
@@ -72,11 +77,13 @@ void HidapiHid::DropInput(qint32 lHandle) {
   }
 }
 
+/// The report is copied to where it can stay. The room for it is there from the opening on: in a
+/// process that crashes none can be had.
 qint32 HidapiHid::Write(qint32 lHandle, const QByteArray& report) {
-  const Device* pFound = Find(lHandle);
+  Device* pFound = Find(lHandle);
   if (pFound == nullptr) return 0;
-  const auto* pData = reinterpret_cast<const unsigned char*>(report.constData());
-  return std::max(0, hid_write(pFound->pDevice, pData, static_cast<size_t>(report.size())));
+  pFound->aSent.assign(report.begin(), report.end());
+  return SendReport(pFound->pDevice, pFound->aSent);
 }
 
 HidReadResult HidapiHid::Read(qint32 lHandle, qint32 lTimeOut, QByteArray& report) {

@@ -1,7 +1,7 @@
 #pragma once
 
-// HID devices through hidapi, which does the same on each system but for the report lengths:
-// ReportLayout.h.
+// HID devices through hidapi, which does the same on each system but for the report lengths
+// (ReportLayout.h) and for what HidapiCalls.h evens out.
 
 #include <hidapi/hidapi.h>
 
@@ -18,7 +18,7 @@ class HidapiHid : public Hid {
   HidapiHid(const HidapiHid&) = delete;
   HidapiHid& operator=(const HidapiHid&) = delete;
 
-  std::vector<HidListing> Devices() override;
+  std::vector<HidListing> Devices(qint16 iVendorID, qint16 iProductID) override;
   qint32 Open(const QByteArray& path) override;
   void Close(qint32 lHandle) override;
   bool Attributes(qint32 lHandle, HidAttributes& attributes) override;
@@ -33,6 +33,7 @@ class HidapiHid : public Hid {
     hid_device* pDevice;
     QByteArray path;
     bool bNumbered;  ///< its reports carry an id on the wire; false where it does not tell
+    std::vector<unsigned char> aSent;  ///< the last report: a write that timed out still reads it
   };
 
   Device* Find(qint32 lHandle);

@@ -73,13 +73,15 @@ qint32 VirtualRig::Call(const QByteArray& operation, std::initializer_list<qint3
   return 0;
 }
 
-std::vector<HidListing> VirtualRig::Devices() {
+std::vector<HidListing> VirtualRig::Devices(qint16 iVendorID, qint16 iProductID) {
   if (OnEnumerate) OnEnumerate();
   ++iEnumerations;
   std::vector<HidListing> aListed;
   for (const VirtualHid& device : aDevices) {
+    const HidAttributes& told = device.attributes;
     if (device.mood == HidMood::Vanished) continue;
-    aListed.push_back({device.path, device.attributes.iVendorID, device.attributes.iProductID});
+    if (told.iVendorID != iVendorID || told.iProductID != iProductID) continue;
+    aListed.push_back({device.path, told.iVendorID, told.iProductID});
   }
   return aListed;
 }

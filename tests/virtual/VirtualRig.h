@@ -90,7 +90,7 @@ class VirtualRig : public Hid {
   /// The devices send a report for which nobody has asked; the report id first.
   void SendInput(const QByteArray& report);
 
-  std::vector<HidListing> Devices() override;
+  std::vector<HidListing> Devices(qint16 iVendorID, qint16 iProductID) override;
   qint32 Open(const QByteArray& path) override;
   void Close(qint32 lHandle) override;
   bool Attributes(qint32 lHandle, HidAttributes& attributes) override;

@@ -1,6 +1,8 @@
 #include "platform/ReportLayout.h"
 
-#include "platform/windows/Api.h"
+#include <vector>
+
+#include "platform/windows/HidPath.h"
 
 // Behind the system's own declarations, and as those of C, which it leaves to whoever includes it.
 extern "C" {
@@ -11,20 +13,22 @@ namespace glidetrak {
 
 namespace {
 
-/// Whether the first input report of the device bears a number.
+/// Whether the first of iCount such things in the input reports stands in one that bears a number.
+/// The system fills no part of a list that does not take all of them.
+template <class Capabilities>
+bool IsFirstNumbered(NTSTATUS(WINAPI* pAsk)(HIDP_REPORT_TYPE, Capabilities*, PUSHORT,
+                                            PHIDP_PREPARSED_DATA),
+                     USHORT iCount, PHIDP_PREPARSED_DATA pPreparsed) {
+  if (iCount == 0) return false;
+  std::vector<Capabilities> aList(iCount);
+  return pAsk(HidP_Input, aList.data(), &iCount, pPreparsed) == HIDP_STATUS_SUCCESS &&
+         aList[0].ReportID != 0;
+}
+
+/// A device numbers all of its reports or none.
 bool IsNumbered(PHIDP_PREPARSED_DATA pPreparsed, const HIDP_CAPS& capabilities) {
-  USHORT iCount = 1;
-  if (capabilities.NumberInputValueCaps > 0) {
-    HIDP_VALUE_CAPS value{};
-    return HidP_GetValueCaps(HidP_Input, &value, &iCount, pPreparsed) !=
-               HIDP_STATUS_INVALID_PREPARSED_DATA &&
-           value.ReportID != 0;
-  }
-  HIDP_BUTTON_CAPS button{};
-  return capabilities.NumberInputButtonCaps > 0 &&
-         HidP_GetButtonCaps(HidP_Input, &button, &iCount, pPreparsed) !=
-             HIDP_STATUS_INVALID_PREPARSED_DATA &&
-         button.ReportID != 0;
+  return IsFirstNumbered(HidP_GetValueCaps, capabilities.NumberInputValueCaps, pPreparsed) ||
+         IsFirstNumbered(HidP_GetButtonCaps, capabilities.NumberInputButtonCaps, pPreparsed);
 }
 
 std::optional<ReportLayout> LayoutOf(HANDLE device) {
@@ -43,8 +47,7 @@ std::optional<ReportLayout> LayoutOf(HANDLE device) {
 
 /// Opened without any right to the device's reports, so that nobody who holds it is in the way.
 std::optional<ReportLayout> ReadLayout(const QByteArray& path) {
-  const HANDLE device = CreateFileA(path.constData(), 0, FILE_SHARE_READ | FILE_SHARE_WRITE,
-                                    nullptr, OPEN_EXISTING, 0, nullptr);
+  const HANDLE device = OpenHidPath(path, 0);
   if (device == INVALID_HANDLE_VALUE) return {};
   const std::optional<ReportLayout> layout = LayoutOf(device);
   CloseHandle(device);

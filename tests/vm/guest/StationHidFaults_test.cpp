@@ -148,7 +148,7 @@ TEST_F(StationHidFaults, ADeviceFoundWithoutItsDescriptorIsReadOnceItCanBe) {
 
 TEST_F(StationHidFaults, TheMachineTellsNoReportLengthsOfADeviceThatIsGone) {
   Plug();
-  const qint32 lHandle = m_devices.Open(m_devices.Devices().at(0).path);
+  const qint32 lHandle = m_devices.Open(m_devices.Devices(3326, 70).at(0).path);
   HidReportLengths lengths{7, 8};
   EXPECT_TRUE(m_devices.ReportLengths(lHandle, lengths));
   EXPECT_EQ(lengths.iInput, 65);
