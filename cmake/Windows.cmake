@@ -48,3 +48,11 @@ function(glidetrak_catalogue VARIABLE FILE)
   qt_add_resources(SOURCES ${LIST})
   set(${VARIABLE} ${SOURCES} PARENT_SCOPE)
 endfunction()
+
+# glidetrak_windows_library(TARGET): one of our own parallel libraries, which the installer tells by
+# its version resource from the adapter maker's.
+function(glidetrak_windows_library TARGET)
+  set(RESOURCE ${CMAKE_CURRENT_BINARY_DIR}/trackport32.rc)
+  configure_file(${PROJECT_SOURCE_DIR}/packaging/windows/trackport32.rc.in ${RESOURCE} @ONLY)
+  target_sources(${TARGET} PRIVATE ${RESOURCE})
+endfunction()
