@@ -21,7 +21,7 @@ RequestExecutionLevel highest
 
 !define PROGID "Torvane.Glidetrak.Program.3"
 !define CLASSES "Software\Classes"
-!define APP_PATHS "Software\Microsoft\Windows\CurrentVersion\App Paths\glidetrak.exe"
+!define APP_PATHS "Software\Microsoft\Windows\CurrentVersion\App Paths"
 !define UNINSTALL "Software\Microsoft\Windows\CurrentVersion\Uninstall\Glidetrak"
 !define UNINSTALLER "glidetrak-uninstall.exe"
 ; What $INSTDIR is until a folder is chosen; only its last name counts.
@@ -330,8 +330,8 @@ Section
   WriteUninstaller "$INSTDIR\${UNINSTALLER}"
   Call MakeShortcuts
   Call Associate
-  WriteRegStr SHCTX "${APP_PATHS}" "" "$INSTDIR\glidetrak.exe"
-  WriteRegStr SHCTX "${APP_PATHS}" "Path" "$INSTDIR"
+  WriteRegStr SHCTX "${APP_PATHS}\glidetrak.exe" "" "$INSTDIR\glidetrak.exe"
+  WriteRegStr SHCTX "${APP_PATHS}\glidetrak.exe" "Path" "$INSTDIR"
   Call WriteUninstallEntry
 SectionEnd
 
@@ -384,6 +384,7 @@ Function un.Dissociate
   DeleteRegKey /ifempty SHCTX "${CLASSES}\.GTP"
   DeleteRegKey SHCTX "${CLASSES}\${PROGID}"
   DeleteRegKey SHCTX "${CLASSES}\Applications\glidetrak.exe"
+  DeleteRegKey /ifempty SHCTX "${CLASSES}\Applications"
   ${ASSOCIATIONS_CHANGED}
 FunctionEnd
 
@@ -395,10 +396,13 @@ Section "un."
   !insertmacro REMOVE_LIBRARY "trackport32.dll"
   !insertmacro REMOVE_LIBRARY "bench\trackport32.dll"
   Delete "$INSTDIR\bench\glidetrak.exe"
-  Delete "$INSTDIR\${UNINSTALLER}"
   !include "${TAKE_FILES}"
   Call un.RemoveShortcuts
   Call un.Dissociate
-  DeleteRegKey SHCTX "${APP_PATHS}"
+  DeleteRegKey SHCTX "${APP_PATHS}\glidetrak.exe"
+  DeleteRegKey /ifempty SHCTX "${APP_PATHS}"
   DeleteRegKey SHCTX "${UNINSTALL}"
+  ; Last, so that what was broken off can be done again.
+  Delete "$INSTDIR\${UNINSTALLER}"
+  RMDir "$INSTDIR"
 SectionEnd
