@@ -54,6 +54,7 @@ Icon "${ICON}"
 UninstallIcon "${ICON}"
 !define MUI_ICON "${ICON}"
 !define MUI_UNICON "${ICON}"
+!define MUI_WELCOMEFINISHPAGE_BITMAP "${SIDE}"
 !define MUI_ABORTWARNING
 
 !insertmacro MUI_PAGE_WELCOME
