@@ -114,7 +114,8 @@ VIProductVersion "${VERSION}.0"
 !insertmacro TEXT NEEDS_ADMINISTRATOR \
   "Only an administrator can do this for all users of this computer." \
   "Solo un administrador puede hacer esto para todos los usuarios de este equipo."
-!insertmacro TEXT NEEDS_WINDOWS_10 "Glidetrak Control needs Windows 10, version 1809, or a later one." \
+!insertmacro TEXT NEEDS_WINDOWS_10 \
+  "Glidetrak Control needs Windows 10, version 1809, or a later one." \
   "Glidetrak Control necesita Windows 10, versión 1809, o posterior."
 !insertmacro TEXT EARLIER_VERSION_STAYS "The earlier version could not be removed." \
   "No se ha podido quitar la versión anterior."
