@@ -1,5 +1,5 @@
-// program_check TRANSCRIPT FILE.GTP: runs the program and holds its transcript against the lines
-// that begin with ";>" in the file and in its .expect.
+// program_check TRANSCRIPT FILE.GTP...: runs each program and holds its transcript against the
+// lines that begin with ";>" in the file and in its .expect. Ends with 1 when one of them fails.
 
 #include <QCoreApplication>
 #include <QFile>
@@ -59,11 +59,21 @@ QStringList RunTranscript(const QString& sTool, const QString& sFile) {
   QProcess process;
   process.start(sTool, {sFile});
   process.waitForFinished(iLongestRun);
-  QStringList aLines = QString::fromLatin1(process.readAllStandardOutput()).split(u'\n');
+  const QByteArray output = process.readAllStandardOutput().replace("\r\n", "\n");
+  QStringList aLines = QString::fromLatin1(output).split(u'\n');
   aLines.removeLast();
   const QByteArray errors = process.readAllStandardError();
   if (!errors.isEmpty()) aLines += QString::fromLocal8Bit(errors);
   return aLines;
+}
+
+int Check(const QString& sTool, const QFileInfo& file) {
+  const QByteArray program = ReadWhole(file.filePath());
+  const QByteArray expect = ReadWhole(file.path() + '/' + file.completeBaseName() + ".expect");
+  if (HasBareLineFeed(program) && !expect.startsWith("bare-lf")) return Fail("bare LF in the file");
+  const QStringList aExpected = ExpectedLines(program) + ExpectedLines(expect);
+  if (aExpected.isEmpty()) return Fail("no expectation in the file");
+  return Compare(aExpected, RunTranscript(sTool, file.filePath()));
 }
 
 }  // namespace
@@ -71,12 +81,11 @@ QStringList RunTranscript(const QString& sTool, const QString& sFile) {
 int main(int argc, char** argv) {
   QCoreApplication application(argc, argv);
   const QStringList aArguments = QCoreApplication::arguments();
-  if (aArguments.size() != 3) return Fail("program_check TRANSCRIPT FILE.GTP");
-  const QFileInfo file(aArguments[2]);
-  const QByteArray program = ReadWhole(file.filePath());
-  const QByteArray expect = ReadWhole(file.path() + '/' + file.completeBaseName() + ".expect");
-  if (HasBareLineFeed(program) && !expect.startsWith("bare-lf")) return Fail("bare LF in the file");
-  const QStringList aExpected = ExpectedLines(program) + ExpectedLines(expect);
-  if (aExpected.isEmpty()) return Fail("no expectation in the file");
-  return Compare(aExpected, RunTranscript(aArguments[1], file.filePath()));
+  if (aArguments.size() < 3) return Fail("program_check TRANSCRIPT FILE.GTP...");
+  int iResult = 0;
+  for (const QString& sFile : aArguments.mid(2)) {
+    if (Check(aArguments[1], QFileInfo(sFile)) == 0) continue;
+    iResult = Fail("FAILED " + sFile);
+  }
+  return iResult;
 }
