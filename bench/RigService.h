@@ -20,6 +20,9 @@ class RigService {
   /// one, is called after each command.
   void Serve(const std::function<void()>& afterCommand = {});
 
+  /// Ends Serve, from any thread.
+  void End() { m_server.End(); }
+
   LiveRig& Rig() { return m_rig; }
 
   /// Serves a rig on a HID device too. Throws std::system_error when there is none to be had, and

@@ -4,8 +4,12 @@
 
 #include <cstdio>
 #include <exception>
+#include <optional>
 #include <string>
+#include <thread>
+#include <vector>
 
+#include "bench/Neighbour.h"
 #include "bench/RigClient.h"
 #include "bench/RigCommands.h"
 #include "bench/RigService.h"
@@ -24,8 +28,9 @@ std::string JoinArguments(int iCount, char** aArguments) {
 }
 
 int ShowUsage() {
-  std::fprintf(stderr, "usage: bench-rig COMMAND\n%s  %s\n  %s\n", RigCommandHelp().c_str(),
+  std::fprintf(stderr, "usage: bench-rig COMMAND\n%s  %s\n  %s\n  %s\n", RigCommandHelp().c_str(),
                "serve                 be a rig until interrupted",
+               "run PROGRAM [WORD...] be one as long as a program of this folder runs",
                "hid                   be one on a USB adapter too (on Linux, for root)");
   return iUsage;
 }
@@ -41,6 +46,30 @@ int Serve() {
   return 0;
 }
 
+/// A rig that is served already stays, and is the program's.
+std::optional<RigService> ServeUnlessServed() {
+  try {
+    return std::optional<RigService>(std::in_place);
+  } catch (const std::exception&) {
+    return {};
+  }
+}
+
+/// Told to end itself, it is no rig any more and still waits for the program.
+int RunBeside(int iCount, char** aArguments) {
+  std::optional<RigService> service = ServeUnlessServed();
+  Neighbour program(aArguments[2], {aArguments + 3, aArguments + iCount});
+  if (!service) return program.Wait();
+  int iCode = 0;
+  std::thread waiting([&] {
+    iCode = program.Wait();
+    service->End();
+  });
+  service->Serve();
+  waiting.join();
+  return iCode;
+}
+
 int ServeHid() {
   RigService::ServeOnHid();
   return 0;
@@ -48,6 +77,7 @@ int ServeHid() {
 
 int Main(int iCount, char** aArguments) {
   try {
+    if (iCount > 2 && std::string(aArguments[1]) == "run") return RunBeside(iCount, aArguments);
     const std::string sLine = JoinArguments(iCount, aArguments);
     if (sLine == "serve") return Serve();
     return sLine == "hid" ? ServeHid() : Command(sLine);

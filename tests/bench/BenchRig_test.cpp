@@ -56,6 +56,22 @@ TEST_F(BenchRig, SaysWhereItServesAndEndsInOrderWhenItIsAsked) {
   EXPECT_FALSE(WireConnection().Connect(Place()));
 }
 
+/// The program is bench-rig itself, which a rig answers.
+TEST_F(BenchRig, IsARigAsLongAsAProgramOfItsFolderRuns) {
+  const ProgramResult result = Run("run " BENCH_RIG_NAME " place 300");
+  EXPECT_EQ(result.iExitCode, 0);
+  EXPECT_EQ(result.sText, "serving a rig at " + Place() + "\n");
+  EXPECT_FALSE(WireConnection().Connect(Place()));
+  EXPECT_EQ(Run("run " BENCH_RIG_NAME " fly").iExitCode, 2) << "the program's own exit code";
+  EXPECT_EQ(Run("run no-such-program").iExitCode, 1);
+}
+
+TEST_F(BenchRig, LeavesARigThatWasServedBeforeToTheProgramAndTheNext) {
+  ServedRig rig(Place());
+  EXPECT_EQ(Run("run " BENCH_RIG_NAME " press START_BUTTON 60000").sText, "");
+  EXPECT_EQ(rig.Sensors(), 0x09);
+}
+
 TEST_F(BenchRig, StartersAtOnceEndAsOneRigAndOneMessageEach) {
   std::vector<Program> aRigs;
   for (int i = 0; i < 8; ++i) aRigs.push_back(Start("serve"));
