@@ -37,10 +37,9 @@ struct HidReportLengths {
 
 enum class HidReadResult { Success, TimeOut, Failed };
 
-/// Input reports that one DropInput drops: the 64 places of an input queue, one report that a read
-/// under way may hold beside it, and an end to it where a device sends faster than they are
-/// dropped.
-constexpr int iMostDropped = 65;
+/// Input reports that one DropInput drops: the places of an input queue, and an end to it where a
+/// device sends faster than they are dropped.
+constexpr int iMostDropped = 64;
 
 class Hid {
  public:
@@ -61,7 +60,8 @@ class Hid {
   virtual bool Attributes(qint32 lHandle, HidAttributes& attributes) = 0;
   virtual bool ReportLengths(qint32 lHandle, HidReportLengths& lengths) = 0;
 
-  /// Drops what waits in the handle's input queue, at most iMostDropped reports, and never waits
+  /// Drops what waits in the handle's input queue, at most iMostDropped reports (and on Windows the
+  /// one that a read under way has taken off it), and never waits
   /// for one. Nothing for a handle whose device is gone.
   virtual void DropInput(qint32 lHandle) = 0;
 

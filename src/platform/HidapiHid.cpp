@@ -72,7 +72,7 @@ void HidapiHid::DropInput(qint32 lHandle) {
   const Device* pFound = Find(lHandle);
   if (pFound == nullptr) return;
   unsigned char cFirst = 0;
-  for (int i = 0; i < iMostDropped; ++i) {
+  for (int i = 0; i < iMostDropped + iHeldBesideQueue; ++i) {
     if (hid_read_timeout(pFound->pDevice, &cFirst, 1, 0) <= 0) return;
   }
 }

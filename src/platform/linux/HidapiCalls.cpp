@@ -4,6 +4,8 @@
 
 namespace glidetrak {
 
+const int iHeldBesideQueue = 0;
+
 hid_device* OpenForReports(const QByteArray& path) {
   return hid_open_path(path.constData());
 }

@@ -6,6 +6,8 @@
 
 namespace glidetrak {
 
+const int iHeldBesideQueue = 1;
+
 /// hidapi opens without any rights what it may not exchange reports with; the station would then
 /// take a device for the rig's link to which nothing can be written.
 hid_device* OpenForReports(const QByteArray& path) {
