@@ -74,12 +74,6 @@ TEST_F(Dispatcher, TellsOfALineThatNoStatementHeads) {
   }
 }
 
-TEST_F(Dispatcher, CarriesOutAnAssignmentWithoutLetAndStillFindsNoKeyword) {
-  EXPECT_EQ(FindCommandKeyword("A=5"), "");
-  EXPECT_EQ(Variable('A'), 5);
-  EXPECT_TRUE(station.BoxTexts().empty());
-}
-
 struct ResultRow {
   const char* sText;
   LineResult result;
@@ -113,100 +107,6 @@ TEST_F(Dispatcher, TellsOfTheMotorUnlessItTraces) {
   EXPECT_EQ(ExecuteFirst("BREAK", false), LineResult::Stopped);
 }
 
-struct BoxRow {
-  const char* sText;
-  QStringList aBoxes;
-};
-
-const BoxRow BoxRows[] = {
-    {"BREAK", {}},
-    {"NONSENSE", {English(511), English(511)}},
-    {"START_BUTTON=ON", {English(511), English(511)}},
-    {"A=5", {English(511)}},
-    {"A=", {English(519) + "'", English(519) + "'", English(511)}},
-    {"LET", {English(512)}},
-    {"LET 5", {English(512) + "\r\n" + English(513)}},
-    {"WAIT", {English(508)}},
-    {"WAIT 0", {English(508), English(508)}},
-    {"WAIT 32001", {English(508), English(508)}},
-    {"WAIT X", {English(508), English(508)}},
-    {"WAIT 2147483648", {English(508)}},
-    {"GET", {English(522)}},
-    {"IF A=", {English(503)}},
-};
-
-TEST_F(Dispatcher, ShowsTheMessagesOfALineThatFails) {
-  for (const BoxRow& row : BoxRows) {
-    station.Forget();
-    const QString sEnd = QString(row.sText).startsWith("IF") ? "\r\nENDIF" : "";
-    EXPECT_EQ(ExecuteFirst(row.sText + sEnd), LineResult::Stopped) << row.sText;
-    EXPECT_EQ(station.BoxTexts(), row.aBoxes) << row.sText;
-  }
-}
-
-std::vector<BoxIcon> Icons(const Station& station) {
-  std::vector<BoxIcon> aIcons;
-  for (const VirtualBox& box : station.platform.aBoxes) aIcons.push_back(box.icon);
-  return aIcons;
-}
-
-TEST_F(Dispatcher, ShowsItsFirstWaitMessageAndItsGetMessageForInformation) {
-  ExecuteFirst("WAIT 0");
-  EXPECT_EQ(Icons(station), (std::vector{BoxIcon::Information, BoxIcon::Exclamation}));
-  station.Forget();
-  ExecuteFirst("WAIT");
-  EXPECT_EQ(Icons(station), std::vector{BoxIcon::Exclamation});
-  station.Forget();
-  ExecuteFirst("GET");
-  EXPECT_EQ(Icons(station), std::vector{BoxIcon::Information});
-}
-
-struct PanelRow {
-  const char* sText;
-  bool bStaysUp;
-};
-
-const PanelRow PanelRows[] = {
-    {"", true},         {": note", true},   {"PRINT \"A\"", true}, {"PRINT", false},
-    {"PRINT 5", false}, {"LABEL X", false}, {"BEEP", false},       {"LET A=1", false},
-    {"GOTO X", false},  {"WAIT 10", false}, {"BREAK", false},
-};
-
-TEST_F(Dispatcher, HidesTheMessageAtEveryStatementButPrint) {
-  for (const PanelRow& row : PanelRows) {
-    Compile(QString("IF A=1\r\n") + row.sText + "\r\nENDIF");
-    lCurrentLine = 1;
-    bProgramRunning = true;
-    pnlMessage.Visible = true;
-    ExecuteProgramLine(false);
-    bProgramRunning = false;
-    EXPECT_EQ(pnlMessage.Visible, row.bStaysUp) << row.sText;
-  }
-}
-
-TEST_F(Dispatcher, HidesTheMessageAtAnEndifAndLeavesTheBlock) {
-  Compile("IF A=1\r\nENDIF");
-  lCurrentLine = 1;
-  bProgramRunning = true;
-  bInIfBlock = true;
-  pnlMessage.Visible = true;
-  EXPECT_EQ(ExecuteProgramLine(false), LineResult::Done);
-  EXPECT_FALSE(pnlMessage.Visible);
-  EXPECT_FALSE(bInIfBlock);
-}
-
-TEST_F(Dispatcher, KeepsTheMessageUpThroughAWaitAndAGet) {
-  for (const char* sText : {"WAIT 100", "GET A"}) {
-    pnlMessage.Visible = true;
-    bool bUpInside = false;
-    station.After(50, [&] { bUpInside = pnlMessage.Visible; });
-    station.After(60, [] { sKeyPressed = "X"; });
-    ExecuteFirst(sText);
-    EXPECT_TRUE(bUpInside) << sText;
-    EXPECT_FALSE(pnlMessage.Visible) << sText;
-  }
-}
-
 TEST_F(Dispatcher, DisablesTheEditorOnTheStopPath) {
   ExecuteFirst("BREAK");
   EXPECT_FALSE(txtProgram.Enabled);
@@ -228,15 +128,6 @@ TEST_F(Dispatcher, ClearsTheIfFlagsAtAGoto) {
   ExecuteFirst("GOTO X");
   EXPECT_FALSE(bInIfBlock);
   EXPECT_TRUE(bIfCondition);
-}
-
-TEST_F(Dispatcher, JumpsToTheTargetOfTheLine) {
-  Compile("GOTO X\r\nBEEP\r\nLABEL X");
-  LineTable[0].lTargetLine = 2;
-  lCurrentLine = 0;
-  bProgramRunning = true;
-  ExecuteProgramLine(false);
-  EXPECT_EQ(lCurrentLine, 2);
 }
 
 struct SelectLineRow {

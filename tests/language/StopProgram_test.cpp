@@ -93,17 +93,5 @@ TEST_F(StopProgramTest, LeavesTheVariableOfAGetAsItWas) {
   EXPECT_EQ(Variable('A'), 12);
 }
 
-TEST_F(StopProgramTest, LeavesTheLineWhereItStood) {
-  station.After(60, [&] { station.Click("btnStopProg"); });
-  station.RunProgram("BEEP\r\nWAIT 500\r\nBEEP");
-  EXPECT_EQ(lCurrentLine, 1);
-}
-
-TEST_F(StopProgramTest, IsOutOfReachInTheMenuOfARunningProgram) {
-  station.After(10, [&] { station.Click("MNUSTOP"); });
-  station.RunProgram("LET A=1\r\nLET B=2");
-  EXPECT_EQ(Variable('B'), 2);
-}
-
 }  // namespace
 }  // namespace glidetrak
