@@ -71,19 +71,17 @@ TEST_F(CommandLineFile, StandsInTheEditorUnchanged) {
   EXPECT_EQ(iControlMode, modeManual);
 }
 
-TEST_F(CommandLineFile, GivesWayToTheFirstPresetWhenItIsMissing) {
-  for (const char* sText : {"\\H\\NOTHING.GTP", "\\H\\TRIP.TXT", "\\H\\TRIP"}) {
+TEST_F(CommandLineFile, GivesWayToTheFirstPresetWhenItIsMissingOrNoProgram) {
+  platform.AddFile("\\H\\PLAN.TXT", "TEXT");
+  platform.AddFile("\\H\\F.GTP", "", attrFolder);
+  for (const char* sText : {"", "\\H\\NOTHING.GTP", "\\H\\PLAN.TXT", "\\H\\TRIP", "\\H\\F.GTP"}) {
     Start(sText);
     EXPECT_EQ(txtProgram.Text(), "PRESET") << sText;
     EXPECT_EQ(sProgramFile, "") << sText;
+    EXPECT_EQ(frmGlidetrak.Caption.value(), "Glidetrak Control") << sText;
+    txtProgram.SetText("");  // so that the next text is the next start's
   }
   EXPECT_TRUE(platform.aBoxes.empty());
-}
-
-TEST_F(CommandLineFile, ThatIsAFolderGivesWayToo) {
-  platform.AddFile("\\H\\F.GTP", "", attrFolder);
-  Start("\\H\\F.GTP");
-  EXPECT_EQ(txtProgram.Text(), "PRESET");
 }
 
 TEST_F(CommandLineFile, ThatCannotBeReadLeavesTheEditorEmptyInSilence) {

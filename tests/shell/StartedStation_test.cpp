@@ -21,46 +21,11 @@ namespace {
 
 class StartUp : public ::testing::Test {
  protected:
-  /// A configuration with two pre-sets beside the executable.
-  void AddPresets() {
-    station.platform.AddFile("\\STATION\\TV_GLIDETRAK.INI",
-                             "[MiscSettings]\r\nHW_EXAMPLES=2\r\n"
-                             "[HW_PRESET1]\r\nFILENAME=ONE.GTP\r\nTITLE=One\r\n");
-    station.platform.AddFile("\\STATION\\Examples\\ONE.GTP", "BEEP : one");
-  }
-
   Station station;
 };
 
-TEST_F(StartUp, LoadsTheFileOfTheCommandLine) {
-  AddPresets();
-  station.platform.AddFile("C:\\WORK\\MY PLAN.GTP", "PRINT \"hi\"\r\n");
-  station.Start(RigLink::None, "\"C:\\Work\\my plan.gtp\"");
-  EXPECT_EQ(txtProgram.Text(), "PRINT \"hi\"\r\n");
-  EXPECT_EQ(sCommandLineFile, "C:\\WORK\\MY PLAN.GTP");
-  EXPECT_EQ(sProgramFile, "C:\\WORK\\MY PLAN.GTP");
-  EXPECT_EQ(frmGlidetrak.Caption, "MY PLAN.GTP : Glidetrak Control");
-}
-
-const char* const FilesDropped[] = {"", "C:\\NOWHERE.GTP", "C:\\FOLDER.GTP", "C:\\PLAN.TXT"};
-
-TEST_F(StartUp, TakesTheFirstPresetWithoutSuchAFile) {
-  for (const char* sCommandLine : FilesDropped) {
-    Station other;
-    other.platform.AddFile("\\STATION\\TV_GLIDETRAK.INI", "[MiscSettings]\nHW_EXAMPLES=1\n");
-    other.platform.AddFile("\\STATION\\Examples\\EXAMPLE1.GTP", "BEEP : one");
-    other.platform.AddFile("C:\\FOLDER.GTP", "", attrFolder);
-    other.platform.AddFile("C:\\PLAN.TXT", "HALT");
-    other.Start(RigLink::None, sCommandLine);
-    EXPECT_EQ(txtProgram.Text(), "BEEP : one") << sCommandLine;
-    EXPECT_EQ(sProgramFile, "") << sCommandLine;
-    EXPECT_EQ(frmGlidetrak.Caption, "Glidetrak Control") << sCommandLine;
-  }
-}
-
-TEST_F(StartUp, StandsInManualModeWithTheEditorReadyBehindIt) {
+TEST_F(StartUp, StandsWithTheEditorReadyBehindItsPanel) {
   station.Start();
-  EXPECT_EQ(iControlMode, modeManual);
   EXPECT_FALSE(pnlProgramBox.Visible);
   EXPECT_TRUE(txtProgram.Visible);
   EXPECT_TRUE(txtFocusGrab.Visible);
@@ -94,18 +59,15 @@ TEST_F(StartUp, SetsForwardAndPowerZero) {
   EXPECT_EQ(imgLever.Top, 4760);
 }
 
-TEST_F(StartUp, BuildsTheNamesAndStartsTheTick) {
+TEST_F(StartUp, BuildsTheNames) {
   station.Start();
   EXPECT_EQ(CommandNameTable[0].sName, "AIRPORT_CALL");
-  EXPECT_TRUE(tmrSystem.Enabled);
-  EXPECT_EQ(tmrSystem.Interval, 25);
 }
 
-TEST_F(StartUp, ShowsBothFormsAndTheDefaultPointer) {
+TEST_F(StartUp, ShowsBothForms) {
   station.Start();
   EXPECT_TRUE(frmGlidetrak.Visible);
   EXPECT_TRUE(frmAbout.Visible);
-  EXPECT_EQ(screen.MousePointer, ptrDefault);
 }
 
 TEST_F(StartUp, HidesTheFormBehindTheHourglassWhileItLoads) {
