@@ -61,6 +61,15 @@ TEST_F(WindowsFilesTest, MatchWithoutRegardToCase) {
   EXPECT_EQ(m_files.Read(m_folder.Path("TRIP.GTP")), "x");
 }
 
+/// The command line hands a path on in upper case.
+TEST_F(WindowsFilesTest, KeepTheSpellingOfTheirNameWhenTheyAreDeletedAndRewritten) {
+  m_folder.AddFile("Trip.gtp", "x");
+  m_files.Delete(m_folder.Path("TRIP.GTP"));
+  m_files.Write(m_folder.Path("TRIP.GTP"), "anew");
+  EXPECT_EQ(QDir(m_folder.Path()).entryList(QDir::Files), QStringList{"Trip.gtp"});
+  EXPECT_EQ(m_folder.Bytes("Trip.gtp"), "anew");
+}
+
 TEST_F(WindowsFilesTest, ThatAreNotThereAreNotFound) {
   for (const QString& sPath : {m_folder.Path("NONE.GTP"), m_folder.Path("no\\A.GTP"), QString(),
                                m_folder.Path("what?.GTP"), QString("Q:\\A.GTP")}) {

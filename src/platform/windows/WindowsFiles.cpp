@@ -119,13 +119,15 @@ int WindowsFiles::Attributes(const QString& sPath) {
 
 /// A hidden file can be replaced only as a hidden one.
 void WindowsFiles::Write(const QString& sPath, const QByteArray& bytes) {
-  const std::wstring sCall = TargetOf(CallPath(sPath));
-  const DWORD lNow = sCall.empty() ? INVALID_FILE_ATTRIBUTES : GetFileAttributesW(sCall.c_str());
-  const DWORD lOld = lNow == INVALID_FILE_ATTRIBUTES ? m_aDeleted.take(sPath) : lNow;
+  const std::wstring sNow = TargetOf(CallPath(sPath));
+  const DWORD lNow = sNow.empty() ? INVALID_FILE_ATTRIBUTES : GetFileAttributesW(sNow.c_str());
+  const Deleted gone = m_aDeleted.take(sPath);
+  const bool bAnew = lNow == INVALID_FILE_ATTRIBUTES;
+  const DWORD lOld = bAnew ? gone.lAttributes : lNow;
   // Not left to the disk, which may be another system's.
   if ((lOld & FILE_ATTRIBUTE_READONLY) != 0) throw RuntimeError(Fault::FileAccess);
-  OpenFile file(sCall, GENERIC_WRITE, 0, CREATE_ALWAYS,
-                FILE_ATTRIBUTE_ARCHIVE | (lOld & lKeptAttributes));
+  OpenFile file(bAnew && !gone.sTarget.empty() ? gone.sTarget : sNow, GENERIC_WRITE, 0,
+                CREATE_ALWAYS, FILE_ATTRIBUTE_ARCHIVE | (lOld & lKeptAttributes));
   if (!file.IsOpen()) throw RuntimeError(Fault::FileAccess);
   const bool bWritten = WriteAll(file.Handle(), bytes);
   if (!file.Close() || !bWritten) throw RuntimeError(Fault::WriteBroken);
@@ -134,9 +136,9 @@ void WindowsFiles::Write(const QString& sPath, const QByteArray& bytes) {
 /// Of a link it is the target that goes: the link itself stays, and a later write follows it.
 void WindowsFiles::Delete(const QString& sPath) {
   const std::wstring sCall = CallPath(sPath);
-  const DWORD lAttributes = AttributesOf(sCall);
-  if (!DeleteFileW(TargetOf(sCall).c_str())) throw RuntimeError(Fault::FileAccess);
-  m_aDeleted.insert(sPath, lAttributes);
+  const Deleted gone{TargetOf(sCall), AttributesOf(sCall)};
+  if (!DeleteFileW(gone.sTarget.c_str())) throw RuntimeError(Fault::FileAccess);
+  m_aDeleted.insert(sPath, gone);
 }
 
 }  // namespace glidetrak

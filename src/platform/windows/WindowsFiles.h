@@ -5,6 +5,7 @@
 #include <QByteArray>
 #include <QHash>
 #include <QString>
+#include <string>
 
 namespace glidetrak {
 
@@ -16,8 +17,14 @@ class WindowsFiles {
   void Delete(const QString& sPath);
 
  private:
-  /// What a file that was deleted and not rewritten had: hidden and the like, by its path.
-  QHash<QString, unsigned long> m_aDeleted;
+  /// What a file was that was deleted and not rewritten. The command line comes in upper case, and
+  /// a file is not to be renamed by it.
+  struct Deleted {
+    std::wstring sTarget;  ///< as the disk spelt it, and behind its links
+    unsigned long lAttributes = 0;
+  };
+
+  QHash<QString, Deleted> m_aDeleted;  ///< by path
 };
 
 }  // namespace glidetrak
