@@ -23,6 +23,7 @@ struct ToolkitText {
 /// which has "archivo" and "carpeta" throughout.
 constexpr ToolkitText aSpanishTexts[] = {
     {"QAbstractFileIconProvider", "Drive", "Unidad"},
+    {"QAbstractFileIconProvider", "File Folder", "Carpeta"},
     {"QAbstractFileIconProvider", "Folder", "Carpeta"},
     {"QFileDialog", "%1\nDirectory not found.\nPlease verify the correct directory name was given.",
      "%1\nNo se encuentra la carpeta.\nCompruebe que el nombre de la carpeta es correcto."},
