@@ -2,6 +2,7 @@
 
 // A program that is started beside the rig, with one source file for each system.
 
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -21,11 +22,8 @@ class Neighbour {
   int Wait();
 
  private:
-#ifdef _WIN32
-  void* m_process;  ///< handle
-#else
-  int m_iProcess;
-#endif
+  struct System;
+  std::unique_ptr<System> m_system;
 };
 
 }  // namespace glidetrak::bench

@@ -11,7 +11,12 @@ extern char** environ;
 
 namespace glidetrak::bench {
 
-Neighbour::Neighbour(const std::string& sName, const std::vector<std::string>& aArguments) {
+struct Neighbour::System {
+  pid_t process = 0;
+};
+
+Neighbour::Neighbour(const std::string& sName, const std::vector<std::string>& aArguments)
+    : m_system(std::make_unique<System>()) {
   const std::filesystem::path folder =
       std::filesystem::read_symlink("/proc/self/exe").parent_path();
   const std::string sPath = folder / sName;
@@ -22,7 +27,7 @@ Neighbour::Neighbour(const std::string& sName, const std::vector<std::string>& a
   posix_spawn_file_actions_init(&actions);
   posix_spawn_file_actions_addchdir_np(&actions, folder.c_str());
   const int iError =
-      posix_spawn(&m_iProcess, sPath.c_str(), &actions, nullptr, aWords.data(), environ);
+      posix_spawn(&m_system->process, sPath.c_str(), &actions, nullptr, aWords.data(), environ);
   posix_spawn_file_actions_destroy(&actions);
   if (iError != 0) throw std::system_error(iError, std::generic_category(), sPath);
 }
@@ -31,7 +36,7 @@ Neighbour::~Neighbour() = default;
 
 int Neighbour::Wait() {
   int iStatus = 0;
-  if (waitpid(m_iProcess, &iStatus, 0) != m_iProcess || !WIFEXITED(iStatus)) return 1;
+  if (waitpid(m_system->process, &iStatus, 0) != m_system->process || !WIFEXITED(iStatus)) return 1;
   return WEXITSTATUS(iStatus);
 }
 

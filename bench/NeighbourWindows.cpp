@@ -1,8 +1,8 @@
-#include <windows.h>
+#include "bench/Neighbour.h"
 
 #include <system_error>
 
-#include "bench/Neighbour.h"
+#include "bench/SystemHandle.h"
 
 namespace glidetrak::bench {
 
@@ -32,7 +32,12 @@ std::wstring CommandLine(const std::wstring& sPath, const std::vector<std::strin
 
 }  // namespace
 
-Neighbour::Neighbour(const std::string& sName, const std::vector<std::string>& aArguments) {
+struct Neighbour::System {
+  SystemHandle process;
+};
+
+Neighbour::Neighbour(const std::string& sName, const std::vector<std::string>& aArguments)
+    : m_system(std::make_unique<System>()) {
   const std::wstring sFolder = OwnFolder();
   const std::wstring sPath = sFolder + Wide(sName);
   std::wstring sLine = CommandLine(sPath, aArguments);
@@ -45,17 +50,15 @@ Neighbour::Neighbour(const std::string& sName, const std::vector<std::string>& a
     throw std::system_error(static_cast<int>(GetLastError()), std::system_category(), sName);
   }
   CloseHandle(started.hThread);
-  m_process = started.hProcess;
+  m_system->process = SystemHandle(started.hProcess);
 }
 
-Neighbour::~Neighbour() {
-  CloseHandle(m_process);
-}
+Neighbour::~Neighbour() = default;
 
 int Neighbour::Wait() {
-  WaitForSingleObject(m_process, INFINITE);
+  WaitForSingleObject(m_system->process.Get(), INFINITE);
   DWORD lCode = 1;
-  GetExitCodeProcess(m_process, &lCode);
+  GetExitCodeProcess(m_system->process.Get(), &lCode);
   return static_cast<int>(lCode);
 }
 

@@ -286,7 +286,9 @@ QString RunningStation::Rig(const QStringList& aArguments) {
 }
 
 bool RunningStation::RigShows(const QString& sLine) {
-  return WaitUntil([&] { return Rig({"state"}).split(u'\n').contains(sLine); });
+  const bool bShown = WaitUntil([&] { return Rig({"state"}).split(u'\n').contains(sLine); });
+  if (!bShown) Picture("rig-does-not-show-" + QString(sLine).replace(u' ', u'-'));
+  return bShown;
 }
 
 bool RunningStation::ServeRig() {

@@ -24,7 +24,7 @@ constexpr int aKillers[] = {SIGSEGV, SIGBUS,  SIGFPE,    SIGILL,  SIGABRT,   SIG
 constexpr unsigned iLongestDeed = 1;  ///< seconds that the deed of a crash may take
 
 /// What the deed of a crash runs on: a stack of its own, as the crash may be one of the stack.
-alignas(16) std::array<char, 256 * 1024> aCrashStack;
+alignas(16) std::array<char, std::size_t{256} * 1024> aCrashStack;
 
 EndDeeds endDeeds{};
 
